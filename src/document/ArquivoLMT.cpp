@@ -1,0 +1,408 @@
+#include "document/ArquivoLMT.h"
+
+#include "document/Texto1252.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <cstring>
+
+namespace lumeta {
+
+namespace {
+
+const QByteArray kCabecalho = QByteArrayLiteral("LumetaEdit 1.0");
+constexpr int kTamanhoCabecalho = 32;
+
+// Smallest records a count in the file can stand for; a count that could not
+// fit in the bytes left is refused before anything is allocated.
+constexpr qsizetype kMinItemAntigo = 2 + 2 + 2 + 8 + 4 + 4 + 10 + 10 + 2 + 1;
+constexpr qsizetype kMinItem = kMinItemAntigo + 2;
+constexpr qsizetype kMinBanda = 4 + 4 + 4 + 2 + 2;
+
+struct FimInesperado {};
+struct Corrompido {};
+
+class Leitor {
+public:
+    explicit Leitor(const QByteArray &d) : p_(d.constData()), fim_(d.constData() + d.size()) {}
+
+    qsizetype restante() const { return fim_ - p_; }
+
+    const char *bytes(qsizetype n)
+    {
+        if (n < 0 || n > restante())
+            throw FimInesperado{};
+        const char *r = p_;
+        p_ += n;
+        return r;
+    }
+    uint8_t u8() { return uint8_t(*bytes(1)); }
+    int16_t i16()
+    {
+        const auto *b = reinterpret_cast<const unsigned char *>(bytes(2));
+        return int16_t(uint16_t(b[0] | (b[1] << 8)));
+    }
+    int32_t i32()
+    {
+        const auto *b = reinterpret_cast<const unsigned char *>(bytes(4));
+        return int32_t(uint32_t(b[0]) | (uint32_t(b[1]) << 8) | (uint32_t(b[2]) << 16) | (uint32_t(b[3]) << 24));
+    }
+    bool booleano() { return i16() != 0; }
+    QString texto()
+    {
+        const qsizetype n = uint16_t(i16());
+        return De1252(bytes(n), n);
+    }
+    QString fixo10() { return De1252(bytes(10), 10); }
+
+    // Array header of a record field: returns the element count.
+    qsizetype contagemArray(qsizetype minimoElemento)
+    {
+        const int16_t dims = i16();
+        if (dims == 0)
+            return 0;
+        if (dims != 1)
+            throw Corrompido{};
+        const int32_t n = i32();
+        (void)i32();  // lower bound, always 1
+        if (n < 0 || n > 32767 || n > restante() / minimoElemento)
+            throw Corrompido{};
+        return n;
+    }
+
+private:
+    const char *p_;
+    const char *fim_;
+};
+
+class Escritor {
+public:
+    QByteArray b;
+    void i16(int16_t v)
+    {
+        const char c[2] = {char(v & 0xFF), char((uint16_t(v) >> 8) & 0xFF)};
+        b.append(c, 2);
+    }
+    void i32(int32_t v)
+    {
+        const uint32_t u = uint32_t(v);
+        const char c[4] = {char(u & 0xFF), char((u >> 8) & 0xFF), char((u >> 16) & 0xFF), char(u >> 24)};
+        b.append(c, 4);
+    }
+    void u8(uint8_t v) { b.append(char(v)); }
+    void booleano(bool v) { i16(v ? -1 : 0); }
+    void texto(const QString &s)
+    {
+        const qsizetype pos = b.size();
+        i16(0);
+        AcrescentarEm1252(b, s);
+        const auto n = uint16_t(b.size() - pos - 2);
+        b[pos] = char(n & 0xFF);
+        b[pos + 1] = char(n >> 8);
+    }
+    // Fixed 10-character flags: padded or cut so the record keeps its width.
+    void fixo10(const QString &s)
+    {
+        QByteArray t = Para1252(s.left(10));
+        t.append(QByteArray(10 - t.size(), '0'));
+        b.append(t);
+    }
+    void cabecalhoArray(qsizetype n)
+    {
+        if (n == 0) {
+            i16(0);
+            return;
+        }
+        i16(1);
+        i32(int32_t(n));
+        i32(1);
+    }
+};
+
+Item lerItem(Leitor &l, char rev)
+{
+    Item it;
+    it.Texto = l.texto();
+    it.Fonte.Nome = l.texto();
+    it.Fonte.Tamanho = l.i16();
+    it.Fonte.Negrito = l.booleano();
+    it.Fonte.Italico = l.booleano();
+    it.Fonte.Sublinhado = l.booleano();
+    it.Fonte.Tachado = l.booleano();
+    it.Esquerda = l.i32();
+    it.Largura = l.i32();
+    it.Linhas = l.fixo10();
+    it.Atributos = l.fixo10();
+    it.CorTexto = l.u8();
+    it.CorFundo = l.u8();
+    if (rev >= 'd') {
+        it.CorLinha = l.u8();
+        it.Espessura = l.u8();
+    } else {
+        it.CorLinha = 0;
+        it.Espessura = 1;
+    }
+    it.Tipo = l.u8();
+    return it;
+}
+
+Banda lerBanda(Leitor &l, char rev)
+{
+    Banda b;
+    b.Topo = l.i32();
+    b.Altura = l.i32();
+    b.Deslocamento = l.i32();
+    if (rev >= 'e')
+        b.Comentario = l.texto();
+    const int16_t numItens = l.i16();
+    if (numItens < 0)
+        throw Corrompido{};
+    const qsizetype n = l.contagemArray(rev >= 'd' ? kMinItem : kMinItemAntigo);
+    b.Itens.reserve(n);
+    for (qsizetype i = 0; i < n; ++i)
+        b.Itens.append(lerItem(l, rev));
+    return b;
+}
+
+void escreverItem(Escritor &e, const Item &it)
+{
+    e.texto(it.Texto);
+    e.texto(it.Fonte.Nome);
+    e.i16(it.Fonte.Tamanho);
+    e.booleano(it.Fonte.Negrito);
+    e.booleano(it.Fonte.Italico);
+    e.booleano(it.Fonte.Sublinhado);
+    e.booleano(it.Fonte.Tachado);
+    e.i32(it.Esquerda);
+    e.i32(it.Largura);
+    e.fixo10(it.Linhas);
+    e.fixo10(it.Atributos);
+    e.u8(it.CorTexto);
+    e.u8(it.CorFundo);
+    e.u8(it.CorLinha);
+    e.u8(it.Espessura);
+    e.u8(it.Tipo);
+}
+
+}  // namespace
+
+LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
+{
+    LeituraLMT r;
+    if (dados.size() < kTamanhoCabecalho) {
+        r.resultado = ResultadoLeitura::ErroLeitura;
+        r.erro = QStringLiteral("O arquivo terminou antes do fim dos dados (arquivo truncado).");
+        return r;
+    }
+    // Only blanks may surround the header text (not tabs or line ends).
+    const QByteArray semEspacos = [&] {
+        QByteArray c = dados.left(kTamanhoCabecalho);
+        qsizetype i = 0, j = c.size();
+        while (i < j && c[i] == ' ')
+            ++i;
+        while (j > i && c[j - 1] == ' ')
+            --j;
+        return c.mid(i, j - i);
+    }();
+    if (semEspacos.size() != kCabecalho.size() + 3 || !semEspacos.startsWith(kCabecalho)
+        || semEspacos[kCabecalho.size()] != '(' || semEspacos.back() != ')'
+        || semEspacos[kCabecalho.size() + 1] < 'a' || semEspacos[kCabecalho.size() + 1] > 't') {
+        r.resultado = ResultadoLeitura::FormatoInvalido;
+        return r;
+    }
+    const char rev = semEspacos[kCabecalho.size() + 1];
+    r.revisao = rev;
+
+    Leitor l(dados);
+    l.bytes(kTamanhoCabecalho);
+    LayoutDocumento doc;
+    try {
+        const int16_t numBandas = l.i16();
+        if (numBandas < 0 || numBandas > l.restante() / kMinBanda)
+            throw Corrompido{};
+        doc.Bandas.reserve(numBandas);
+        for (int i = 0; i < numBandas; ++i)
+            doc.Bandas.append(lerBanda(l, rev));
+        doc.Paisagem = l.booleano();
+        doc.Imprimir = l.booleano();
+        doc.Visivel = l.booleano();
+        if (rev >= 'b') {
+            doc.NomeImpressora = l.texto();
+            doc.QuebraPaginaFinal = l.booleano();
+        }
+        doc.QualidadeJPG = rev >= 'c' ? l.i16() : int16_t(90);
+        doc.TipoEmail = rev >= 'f' ? l.i16() : int16_t(1);
+        if (rev >= 'g')
+            doc.TextoEmail = l.texto();
+        if (rev >= 'h')
+            doc.BandaCabecalho = l.i32();
+        if (rev >= 'j') {
+            doc.MargemEsquerda = l.texto();
+            doc.MargemSuperior = l.texto();
+        }
+        if (rev >= 'l')
+            doc.BandaRodape = l.i32();
+        if (rev >= 'n') {
+            const int16_t numQuebras = l.i16();
+            if (numQuebras < 0)
+                throw Corrompido{};
+            const qsizetype n = l.contagemArray(2);
+            doc.Quebras.reserve(n);
+            for (qsizetype i = 0; i < n; ++i)
+                doc.Quebras.append(l.i16());
+        }
+        if (rev >= 'o')
+            doc.TemCapa = l.booleano();
+        if (rev >= 'q')
+            doc.EnviarEmail = l.booleano();
+        if (rev >= 'r')
+            doc.MargemInferior = l.texto();
+    } catch (const FimInesperado &) {
+        r.resultado = ResultadoLeitura::ErroLeitura;
+        r.erro = QStringLiteral("O arquivo terminou antes do fim dos dados (arquivo truncado).");
+        return r;
+    } catch (const Corrompido &) {
+        r.resultado = ResultadoLeitura::ErroLeitura;
+        r.erro = QStringLiteral("O arquivo contém dados inválidos (arquivo corrompido).");
+        return r;
+    }
+
+    // Until revision s a picture item held a bare file name; it is now an expression.
+    if (rev <= 'r') {
+        for (Banda &b : doc.Bandas)
+            for (Item &it : b.Itens)
+                if (it.Tipo == TipoFigura)
+                    it.Texto = QLatin1Char('"') + it.Texto + QLatin1Char('"');
+    }
+    destino = std::move(doc);
+    return r;
+}
+
+QByteArray GravarLMT(const LayoutDocumento &doc)
+{
+    Escritor e;
+    qsizetype estimativa = 256;
+    for (const Banda &b : doc.Bandas)
+        estimativa += 32 + b.Comentario.size() + b.Itens.size() * 72;
+    e.b.reserve(estimativa);
+
+    QByteArray cab = kCabecalho + "(" + RevisaoAtual + ")";
+    cab.append(QByteArray(kTamanhoCabecalho - cab.size(), ' '));
+    e.b.append(cab);
+    e.i16(int16_t(doc.Bandas.size()));
+    for (const Banda &b : doc.Bandas) {
+        e.i32(b.Topo);
+        e.i32(b.Altura);
+        e.i32(b.Deslocamento);
+        e.texto(b.Comentario);
+        e.i16(int16_t(b.Itens.size()));
+        e.cabecalhoArray(b.Itens.size());
+        for (const Item &it : b.Itens)
+            escreverItem(e, it);
+    }
+    e.booleano(doc.Paisagem);
+    e.booleano(doc.Imprimir);
+    e.booleano(doc.Visivel);
+    e.texto(doc.NomeImpressora);
+    e.booleano(doc.QuebraPaginaFinal);
+    e.i16(doc.QualidadeJPG);
+    e.i16(doc.TipoEmail);
+    e.texto(doc.TextoEmail);
+    e.i32(doc.BandaCabecalho);
+    e.texto(doc.MargemEsquerda);
+    e.texto(doc.MargemSuperior);
+    e.i32(doc.BandaRodape);
+    e.i16(int16_t(doc.Quebras.size()));
+    e.cabecalhoArray(doc.Quebras.size());
+    for (int16_t q : doc.Quebras)
+        e.i16(q);
+    e.booleano(doc.TemCapa);
+    e.booleano(doc.EnviarEmail);
+    e.texto(doc.MargemInferior);
+    return e.b;
+}
+
+QString MensagemFormatoInvalido(const QString &caminho)
+{
+    return QStringLiteral("Formato inválido!\n\nO arquivo '") + caminho + QStringLiteral("' não foi salvo pelo ")
+        + VersaoCompleta()
+        + QStringLiteral(".\n\nProvavelmente foi salvo por uma versão mais recente, tente fazer a atualização.");
+}
+
+QString MensagemErroAbrir(const QString &caminho, const QString &erro)
+{
+    return QStringLiteral("Ocorreu um erro ao abrir o arquivo '") + caminho + QStringLiteral("!\n\n") + erro;
+}
+
+QString MensagemErroGravar(const QString &caminho, int numero, const QString &descricao)
+{
+    return QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + caminho + QStringLiteral("!\n\n")
+        + QString::number(numero) + QStringLiteral(" - ") + descricao;
+}
+
+ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc)
+{
+    ResultadoArquivo r;
+    QFile f(caminho);
+    if (!f.open(QIODevice::ReadOnly)) {
+        r.ok = false;
+        r.leitura = ResultadoLeitura::ErroLeitura;
+        r.mensagem = MensagemErroAbrir(caminho, f.errorString());
+        return r;
+    }
+    const QByteArray dados = f.readAll();
+    if (f.error() != QFileDevice::NoError) {
+        r.ok = false;
+        r.leitura = ResultadoLeitura::ErroLeitura;
+        r.mensagem = MensagemErroAbrir(caminho, f.errorString());
+        return r;
+    }
+    const LeituraLMT l = LerLMT(dados, doc);
+    r.leitura = l.resultado;
+    if (l.resultado == ResultadoLeitura::FormatoInvalido) {
+        r.ok = false;
+        r.mensagem = MensagemFormatoInvalido(caminho);
+        r.titulo = TituloFormatoInvalido;
+    } else if (l.resultado == ResultadoLeitura::ErroLeitura) {
+        r.ok = false;
+        r.mensagem = MensagemErroAbrir(caminho, l.erro);
+    }
+    return r;
+}
+
+ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados)
+{
+    QSaveFile f(caminho);
+    bool ok = f.open(QIODevice::WriteOnly);
+    if (ok)
+        ok = f.write(dados) == dados.size();
+    if (ok)
+        ok = f.commit();
+    ResultadoArquivo r;
+    if (ok)
+        return r;
+    int numero = 75;
+    QString descricao = QStringLiteral("Erro de acesso ao caminho/arquivo");
+    switch (f.error()) {
+    case QFileDevice::PermissionsError:
+        numero = 70;
+        descricao = QStringLiteral("Permissão negada");
+        break;
+    case QFileDevice::WriteError:
+    case QFileDevice::ResourceError:
+        numero = 61;
+        descricao = QStringLiteral("Disco cheio");
+        break;
+    default:
+        break;
+    }
+    if (!f.errorString().isEmpty())
+        descricao += QStringLiteral(" (") + f.errorString() + QLatin1Char(')');
+    f.cancelWriting();
+    r.ok = false;
+    r.mensagem = MensagemErroGravar(caminho, numero, descricao);
+    return r;
+}
+
+}  // namespace lumeta

@@ -1,0 +1,55 @@
+#pragma once
+// The .lmt layout file: a 32-byte text header carrying a revision letter, then a
+// field-by-field little-endian dump of the model. Every revision from "a" on is
+// read; revision "t" is written.
+
+#include "document/Layout.h"
+
+#include <QByteArray>
+
+namespace lumeta {
+
+inline constexpr char RevisaoAtual = 't';
+inline const QString FiltroLMT = QStringLiteral("Lumeta Layout (*.lmt)|*.lmt");
+
+enum class ResultadoLeitura {
+    Ok,
+    FormatoInvalido,   // the header names no revision this editor knows
+    ErroLeitura,       // the file is shorter than its fields say, or unreadable
+};
+
+struct LeituraLMT {
+    ResultadoLeitura resultado = ResultadoLeitura::Ok;
+    QString erro;      // the error text of ErroLeitura (why the bytes could not be read)
+    char revisao = 0;
+};
+
+// Decodes a whole file's bytes. On failure the document is left untouched.
+LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &doc);
+QByteArray GravarLMT(const LayoutDocumento &doc);
+
+// The messages the editor shows for a failed open or save, word for word.
+QString MensagemFormatoInvalido(const QString &caminho);
+QString MensagemErroAbrir(const QString &caminho, const QString &erro);
+QString MensagemErroGravar(const QString &caminho, int numero, const QString &descricao);
+inline const QString TituloFormatoInvalido = QStringLiteral("Impossível Abrir");
+
+struct ResultadoArquivo {
+    bool ok = true;
+    ResultadoLeitura leitura = ResultadoLeitura::Ok;
+    QString mensagem;  // ready to show when !ok
+    QString titulo;
+};
+
+// Reads a file from disk into doc; doc is unchanged unless ok.
+ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc);
+
+// Writes the whole file to a temporary file beside the target and renames it
+// over the target, so a failed save leaves the previous layout in place.
+ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados);
+inline ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc)
+{
+    return GravarArquivo(caminho, GravarLMT(doc));
+}
+
+}  // namespace lumeta

@@ -1,0 +1,92 @@
+#include "document/Sessao.h"
+
+namespace lumeta {
+
+SessaoEditor::SessaoEditor()
+{
+    NovoLMT();
+}
+
+void SessaoEditor::NovoLMT()
+{
+    BandaSelecionada = 1;
+    ItemSelecionado = 0;
+    NomeArquivo.clear();
+    NomeArquivoAnterior.clear();
+    QualidadeJPGSessao = 0;
+    Documento = LayoutDocumento();
+    AddBanda(0, false, 0, 0);
+    Documento.ReposicionarItem(1);
+    Documento.ReposicionarBanda();
+    Alterado = false;
+}
+
+void SessaoEditor::AddBanda(int posicao, bool duplicar, int32_t altura, int32_t largura)
+{
+    auto &bandas = Documento.Bandas;
+    int nova;
+    if (posicao <= 0) {
+        bandas.append(Banda());
+        nova = int(bandas.size());
+    } else {
+        // The band at posicao is copied down one place; with duplicar the two
+        // copies stay and the lower one becomes the selection.
+        bandas.insert(posicao - 1, bandas[posicao - 1]);
+        nova = posicao;
+        BandaSelecionada = posicao + 1;
+        if (Documento.BandaCabecalho >= 1 && Documento.BandaCabecalho >= posicao)
+            ++Documento.BandaCabecalho;
+        if (Documento.BandaRodape >= 1 && Documento.BandaRodape >= posicao)
+            ++Documento.BandaRodape;
+    }
+    if (duplicar) {
+        if (posicao > 0)
+            bandas[posicao].Deslocamento = 0;
+        return;
+    }
+    Banda &b = bandas[nova - 1];
+    b.Altura = altura == 0 ? 18 : altura;
+    b.Deslocamento = 0;
+    b.Comentario.clear();
+    b.Itens.clear();
+    // The new band is never the selected one here, so its item is appended.
+    AddItem(nova, false, largura);
+}
+
+void SessaoEditor::AddItem(int banda, bool duplicar, int32_t largura)
+{
+    Banda &b = Documento.banda(banda);
+    int novo;
+    const int s = ItemSelecionado;
+    if (BandaSelecionada == banda && s > 0 && s <= b.NumItens()) {
+        b.Itens.insert(s - 1, b.Itens[s - 1]);
+        novo = s;
+        ItemSelecionado = s + 1;
+    } else {
+        b.Itens.append(Item());
+        novo = b.NumItens();
+    }
+    if (duplicar)
+        return;
+    Item &item = b.Itens[novo - 1];
+    item = Item();
+    item.Largura = largura == 0 ? 64 : largura;
+    item.Texto = QStringLiteral("Texto ") + QString::number(b.NumItens());
+    item.Fonte = FontePadrao;
+}
+
+void SessaoEditor::RemoverBanda(int n)
+{
+    auto &bandas = Documento.Bandas;
+    if (n < 1 || n > bandas.size())
+        return;
+    bandas.removeAt(n - 1);
+    if (Documento.BandaCabecalho >= 1 && Documento.BandaCabecalho >= n)
+        --Documento.BandaCabecalho;
+    if (Documento.BandaRodape >= 1 && Documento.BandaRodape >= n)
+        --Documento.BandaRodape;
+    if (BandaSelecionada > bandas.size())
+        BandaSelecionada = int(bandas.size());
+}
+
+}  // namespace lumeta

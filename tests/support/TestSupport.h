@@ -1,0 +1,26 @@
+#pragma once
+// Helpers shared by the tests: byte builders for hand-made files and a
+// temporary folder per test.
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+namespace lumeta::teste {
+
+// Little-endian writer for building .lmt/.lin files by hand in tests.
+struct Bytes {
+    QByteArray b;
+    Bytes &i16(int v);
+    Bytes &i32(int v);
+    Bytes &u8(int v);
+    Bytes &str(const QByteArray &s);   // 16-bit count + bytes
+    Bytes &raw(const QByteArray &s);
+    Bytes &cab(const char *revisao);    // the 32-byte header of a revision letter
+};
+
+QString CaminhoDados(const QString &nome);
+QByteArray LerArquivo(const QString &caminho);
+void GravarArquivoTeste(const QString &caminho, const QByteArray &dados);
+
+}  // namespace lumeta::teste

@@ -1,5 +1,7 @@
 #include "document/Sessao.h"
 
+#include "document/ArquivoLMT.h"
+
 namespace lumeta {
 
 SessaoEditor::SessaoEditor()
@@ -16,9 +18,84 @@ void SessaoEditor::NovoLMT()
     QualidadeJPGSessao = 0;
     Documento = LayoutDocumento();
     AddBanda(0, false, 0, 0);
-    Documento.ReposicionarItem(1);
-    Documento.ReposicionarBanda();
+    AposCarregar();
     Alterado = false;
+}
+
+void SessaoEditor::AposCarregar()
+{
+    for (int b = 1; b <= Documento.NumBandas(); ++b)
+        Documento.ReposicionarItem(b);
+    Documento.ReposicionarBanda();
+}
+
+QString SessaoEditor::Titulo() const
+{
+    if (NomeArquivo.isEmpty())
+        return NomeProduto;
+    return TituloAplicacao + QStringLiteral(" - [") + NomeArquivo + QLatin1Char(']');
+}
+
+bool SessaoEditor::SalvarLMT(bool proporNomeAnterior)
+{
+    if (!NomeArquivo.isEmpty()) {
+        NomeArquivoAnterior = NomeArquivo;
+    } else {
+        OpcoesArquivo op;
+        op.filtro = FiltroLMT;
+        op.nomeProposto = proporNomeAnterior ? NomeArquivoAnterior : QString();
+        op.confirmarSobrescrever = true;
+        const QString escolhido = Ui ? Ui->ArquivoSalvar(op) : QString();
+        if (escolhido.isEmpty()) {
+            NomeArquivo = NomeArquivoAnterior;
+            return false;
+        }
+        NomeArquivo = escolhido;
+    }
+    const ResultadoArquivo r = GravarArquivoLMT(NomeArquivo, Documento);
+    if (!r.ok) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, QString(), Icone::Exclamacao);
+        return false;
+    }
+    Config.GravarRecentes(NomeArquivo);
+    return true;
+}
+
+SessaoEditor::ResultadoAbrir SessaoEditor::AbrirLMT(const QString &caminho)
+{
+    QString arquivo = caminho;
+    if (arquivo.isEmpty()) {
+        NomeArquivoAnterior = NomeArquivo;
+        OpcoesArquivo op;
+        op.filtro = FiltroLMT;
+        op.pastaInicial = QStringLiteral(".");
+        arquivo = Ui ? Ui->ArquivoAbrir(op) : QString();
+        if (arquivo.isEmpty())
+            return ResultadoAbrir::Cancelado;
+    }
+    NomeArquivo = arquivo;
+    LayoutDocumento lido;
+    const ResultadoArquivo r = AbrirArquivoLMT(arquivo, lido);
+    if (r.leitura == ResultadoLeitura::FormatoInvalido) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, r.titulo, Icone::Exclamacao);
+        NovoLMT();
+        return ResultadoAbrir::FormatoInvalido;
+    }
+    if (!r.ok) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, r.titulo, Icone::Exclamacao);
+        NomeArquivo = NomeArquivoAnterior;
+        return ResultadoAbrir::Encerrar;
+    }
+    Documento = std::move(lido);
+    QualidadeJPGSessao = 0;
+    BandaSelecionada = 1;
+    ItemSelecionado = 0;
+    AposCarregar();
+    Config.GravarRecentes(NomeArquivo);
+    return ResultadoAbrir::Aberto;
 }
 
 void SessaoEditor::AddBanda(int posicao, bool duplicar, int32_t altura, int32_t largura)

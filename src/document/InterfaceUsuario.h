@@ -1,0 +1,35 @@
+#pragma once
+// The one road by which the editor's commands talk to the user: message
+// boxes, questions, file dialogs and input boxes. The window supplies the real
+// one; tests supply a scripted one, so every command runs without a window.
+
+#include <QString>
+#include <optional>
+
+namespace lumeta {
+
+enum class Icone { Nenhum, Informacao, Exclamacao, Critico, Pergunta };
+enum class Botoes { Ok, SimNao, SimNaoCancelar, OkCancelar };
+enum class Resposta { Ok, Sim, Nao, Cancelar };
+
+struct OpcoesArquivo {
+    QString titulo;
+    QString filtro;          // "Descrição (*.ext)|*.ext" pairs, as the editor states them
+    QString nomeProposto;    // save: proposed name; open: may be empty
+    QString pastaInicial;
+    bool confirmarSobrescrever = true;  // save only
+};
+
+class InterfaceUsuario {
+public:
+    virtual ~InterfaceUsuario() = default;
+    virtual void Mensagem(const QString &texto, const QString &titulo, Icone icone) = 0;
+    virtual Resposta Perguntar(const QString &texto, const QString &titulo, Botoes botoes, Icone icone) = 0;
+    // An empty text means the dialog was cancelled.
+    virtual QString ArquivoSalvar(const OpcoesArquivo &opcoes) = 0;
+    virtual QString ArquivoAbrir(const OpcoesArquivo &opcoes) = 0;
+    // An input box; nullopt when cancelled.
+    virtual std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) = 0;
+};
+
+}  // namespace lumeta

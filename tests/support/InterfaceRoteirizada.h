@@ -1,0 +1,64 @@
+#pragma once
+// A user who answers from a script: each question, file dialog and input box
+// takes the next queued answer, and every message shown is recorded.
+
+#include "document/InterfaceUsuario.h"
+
+#include <QList>
+#include <QStringList>
+#include <deque>
+
+namespace lumeta::teste {
+
+struct MensagemVista {
+    QString texto;
+    QString titulo;
+    Icone icone;
+};
+
+class InterfaceRoteirizada : public InterfaceUsuario {
+public:
+    std::deque<Resposta> respostas;
+    std::deque<QString> arquivos;              // answers of the file dialogs ("" = cancel)
+    std::deque<std::optional<QString>> entradas;
+    QList<MensagemVista> mensagens;
+    QList<MensagemVista> perguntas;
+    QList<OpcoesArquivo> dialogos;
+
+    void Mensagem(const QString &texto, const QString &titulo, Icone icone) override
+    {
+        mensagens.append({texto, titulo, icone});
+    }
+    Resposta Perguntar(const QString &texto, const QString &titulo, Botoes, Icone icone) override
+    {
+        perguntas.append({texto, titulo, icone});
+        if (respostas.empty())
+            return Resposta::Cancelar;
+        const Resposta r = respostas.front();
+        respostas.pop_front();
+        return r;
+    }
+    QString ArquivoSalvar(const OpcoesArquivo &o) override { return proximoArquivo(o); }
+    QString ArquivoAbrir(const OpcoesArquivo &o) override { return proximoArquivo(o); }
+    std::optional<QString> Entrada(const QString &, const QString &, const QString &) override
+    {
+        if (entradas.empty())
+            return std::nullopt;
+        auto r = entradas.front();
+        entradas.pop_front();
+        return r;
+    }
+
+private:
+    QString proximoArquivo(const OpcoesArquivo &o)
+    {
+        dialogos.append(o);
+        if (arquivos.empty())
+            return QString();
+        const QString r = arquivos.front();
+        arquivos.pop_front();
+        return r;
+    }
+};
+
+}  // namespace lumeta::teste

@@ -2,10 +2,31 @@
 #include "document/Sessao.h"
 #include "support/TestSupport.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
 using lumeta::teste::Bytes;
+
+namespace {
+
+// Item record of revisions d..t.
+void itemAtual(Bytes &e, const QByteArray &texto, const QByteArray &fonte, int tamanho, int largura, int tipo,
+               int corLinha = 0, int espessura = 1)
+{
+    e.str(texto).str(fonte).i16(tamanho).i16(-1).i16(0).i16(0).i16(-1).i32(0).i32(largura);
+    e.raw("1010100000").raw("0000100010").u8(3).u8(7).u8(corLinha).u8(espessura).u8(tipo);
+}
+
+// Item record of revisions a..c: no line colour or thickness.
+void itemAntigo(Bytes &e, const QByteArray &texto, int largura, int tipo)
+{
+    e.str(texto).str("Courier New").i16(12).i16(0).i16(-1).i16(0).i16(0).i32(0).i32(largura);
+    e.raw("0000000000").raw("1000100010").u8(4).u8(99).u8(tipo);
+}
+
+}  // namespace
 
 TEST(ArquivoLMT, NovoLayoutTemExatamente166Bytes)
 {
@@ -23,4 +44,279 @@ TEST(ArquivoLMT, NovoLayoutTemExatamente166Bytes)
     LayoutDocumento lido;
     ASSERT_EQ(LerLMT(b, lido).resultado, ResultadoLeitura::Ok);
     EXPECT_EQ(lido, s.Documento);
+}
+
+TEST(ArquivoLMT, QuebrasDePaginaTextosEBooleanosGravadosComoNaTabela)
+{
+    SessaoEditor s;
+    LayoutDocumento &d = s.Documento;
+    d.QuebraPaginaAdd(3);
+    d.QuebraPaginaAdd(7);
+    d.TextoEmail = QStringLiteral("Ação €1{ENTER}fim");
+    d.Paisagem = true;
+    d.banda(1).Comentario = QStringLiteral("antes") + QChar(0xFF) + QStringLiteral("depois");
+    const QByteArray b = GravarLMT(d);
+    // NumQuebras, header (1 dimension, 2 elements, lower bound 1), 3, 7, then TemCapa...
+    Bytes quebras;
+    quebras.i16(2).i16(1).i32(2).i32(1).i16(3).i16(7).i16(0).i16(0).str("\"0\"");
+    EXPECT_TRUE(b.endsWith(quebras.b));
+    // Windows-1252: ç = E7, ã = E3, € = 80; true is FF FF.
+    EXPECT_TRUE(b.contains(QByteArray("\x11\x00" "A\xE7\xE3o \x80" "1{ENTER}fim", 19)));
+    EXPECT_TRUE(b.contains(QByteArray("antes\xFF" "depois")));
+    const qsizetype depoisBandas = 34 + 12 + 2 + 12 + 2 + 10 + (2 + 7) + (2 + 5) + 10 + 8 + 20 + 5;
+    EXPECT_EQ(b.mid(depoisBandas, 6).toHex(), QByteArray("ffff00000000"));
+    LayoutDocumento lido;
+    ASSERT_EQ(LerLMT(b, lido).resultado, ResultadoLeitura::Ok);
+    EXPECT_EQ(lido, d);
+    EXPECT_EQ(lido.TextoEmail, d.TextoEmail);
+}
+
+TEST(ArquivoLMT, RevisaoAUsaRegistrosAntigosEPadroes)
+{
+    Bytes e;
+    e.cab("a").i16(2);
+    e.i32(16).i32(20).i32(0).i16(2).i16(1).i32(2).i32(1);
+    itemAntigo(e, "Nome", 100, 0);
+    itemAntigo(e, "logo.bmp", 50, 1);
+    e.i32(36).i32(-14).i32(-3).i16(1).i16(1).i32(1).i32(1);
+    itemAntigo(e, "X", 30, 2);
+    e.i16(-1).i16(0).i16(1);  // Paisagem, Imprimir, Visivel (any non-zero is true)
+    LayoutDocumento d;
+    const LeituraLMT r = LerLMT(e.b, d);
+    ASSERT_EQ(r.resultado, ResultadoLeitura::Ok);
+    EXPECT_EQ(r.revisao, 'a');
+    ASSERT_EQ(d.NumBandas(), 2);
+    EXPECT_EQ(d.banda(1).Altura, 20);
+    EXPECT_EQ(d.banda(2).Altura, -14);
+    EXPECT_EQ(d.banda(2).Deslocamento, -3);
+    EXPECT_EQ(d.banda(1).Comentario, QString());
+    const Item &nome = d.banda(1).Itens[0];
+    EXPECT_EQ(nome.Texto, QStringLiteral("Nome"));
+    EXPECT_EQ(nome.Fonte.Nome, QStringLiteral("Courier New"));
+    EXPECT_EQ(nome.Fonte.Tamanho, 12);
+    EXPECT_TRUE(nome.Fonte.Italico);
+    EXPECT_EQ(nome.Atributos, QStringLiteral("1000100010"));
+    EXPECT_EQ(nome.CorTexto, 4);
+    EXPECT_EQ(nome.CorFundo, 99);
+    EXPECT_EQ(nome.CorLinha, 0);
+    EXPECT_EQ(nome.Espessura, 1);
+    EXPECT_EQ(nome.Tipo, 0);
+    EXPECT_EQ(d.banda(1).Itens[1].Texto, QStringLiteral("\"logo.bmp\""));
+    EXPECT_EQ(d.banda(2).Itens[0].Tipo, TipoComando);
+    EXPECT_EQ(d.banda(2).Itens[0].Texto, QStringLiteral("X"));
+    EXPECT_TRUE(d.Paisagem);
+    EXPECT_FALSE(d.Imprimir);
+    EXPECT_TRUE(d.Visivel);
+    EXPECT_EQ(d.NomeImpressora, QString());
+    EXPECT_FALSE(d.QuebraPaginaFinal);
+    EXPECT_EQ(d.QualidadeJPG, 90);
+    EXPECT_EQ(d.TipoEmail, 1);
+    EXPECT_EQ(d.MargemEsquerda, QStringLiteral("\"0\""));
+    EXPECT_EQ(d.MargemSuperior, QStringLiteral("\"0\""));
+    EXPECT_EQ(d.MargemInferior, QStringLiteral("\"0\""));
+    EXPECT_TRUE(d.Quebras.isEmpty());
+    EXPECT_EQ(d.BandaCabecalho, 0);
+    EXPECT_EQ(d.BandaRodape, 0);
+}
+
+TEST(ArquivoLMT, RevisaoBTemImpressoraEQuebraFinal)
+{
+    Bytes e;
+    e.cab("b").i16(1).i32(16).i32(18).i32(0).i16(1).i16(1).i32(1).i32(1);
+    itemAntigo(e, "foto.jpg", 64, 1);
+    e.i16(0).i16(-1).i16(0).str("HP LaserJet").i16(-1);
+    LayoutDocumento d;
+    ASSERT_EQ(LerLMT(e.b, d).resultado, ResultadoLeitura::Ok);
+    EXPECT_EQ(d.NomeImpressora, QStringLiteral("HP LaserJet"));
+    EXPECT_TRUE(d.QuebraPaginaFinal);
+    EXPECT_TRUE(d.Imprimir);
+    EXPECT_EQ(d.QualidadeJPG, 90);
+    EXPECT_EQ(d.TipoEmail, 1);
+    EXPECT_EQ(d.banda(1).Itens[0].Texto, QStringLiteral("\"foto.jpg\""));
+    EXPECT_EQ(d.banda(1).Itens[0].Espessura, 1);
+    EXPECT_EQ(d.banda(1).Comentario, QString());
+}
+
+// Revisions d..t, built field by field as each revision added them.
+static QByteArray ArquivoRevisao(char rev)
+{
+    Bytes e;
+    const char letra[2] = {rev, 0};
+    e.cab(letra).i16(1).i32(16).i32(18).i32(0);
+    if (rev >= 'e')
+        e.str("coment");
+    e.i16(2).i16(1).i32(2).i32(1);
+    itemAtual(e, "Valor", "Times New Roman", 9, 80, 0, 5, 3);
+    itemAtual(e, rev >= 's' ? "\"c:\\fig.gif\"" : "c:\\fig.gif", "Arial", 8, 40, 1);
+    e.i16(0).i16(0).i16(0).str("PDF Printer").i16(0).i16(77);
+    if (rev >= 'f')
+        e.i16(4);
+    if (rev >= 'g')
+        e.str("Oi{ENTER}tchau");
+    if (rev >= 'h')
+        e.i32(1);
+    if (rev >= 'j')
+        e.str("WS-ESQ").str("\"12\"");
+    if (rev >= 'l')
+        e.i32(1);
+    if (rev >= 'n')
+        e.i16(1).i16(1).i32(1).i32(1).i16(1);
+    if (rev >= 'o')
+        e.i16(-1);
+    if (rev >= 'q')
+        e.i16(-1);
+    if (rev >= 'r')
+        e.str("\"5\"");
+    return e.b;
+}
+
+TEST(ArquivoLMT, CadaRevisaoDeDATLeSeusCamposEPadroes)
+{
+    for (char rev = 'd'; rev <= 't'; ++rev) {
+        SCOPED_TRACE(std::string("revisao ") + rev);
+        LayoutDocumento d;
+        const LeituraLMT r = LerLMT(ArquivoRevisao(rev), d);
+        ASSERT_EQ(r.resultado, ResultadoLeitura::Ok);
+        ASSERT_EQ(d.NumBandas(), 1);
+        const Banda &b = d.banda(1);
+        EXPECT_EQ(b.Comentario, rev >= 'e' ? QStringLiteral("coment") : QString());
+        ASSERT_EQ(b.NumItens(), 2);
+        EXPECT_EQ(b.Itens[0].Fonte.Nome, QStringLiteral("Times New Roman"));
+        EXPECT_TRUE(b.Itens[0].Fonte.Negrito);
+        EXPECT_TRUE(b.Itens[0].Fonte.Tachado);
+        EXPECT_EQ(b.Itens[0].Linhas, QStringLiteral("1010100000"));
+        EXPECT_EQ(b.Itens[0].CorLinha, 5);
+        EXPECT_EQ(b.Itens[0].Espessura, 3);
+        // Picture texts became quoted expressions at revision s; older ones are quoted on reading.
+        EXPECT_EQ(b.Itens[1].Texto, QStringLiteral("\"c:\\fig.gif\""));
+        EXPECT_EQ(d.NomeImpressora, QStringLiteral("PDF Printer"));
+        EXPECT_EQ(d.QualidadeJPG, 77);
+        EXPECT_EQ(d.TipoEmail, rev >= 'f' ? 4 : 1);
+        EXPECT_EQ(d.TextoEmail, rev >= 'g' ? QStringLiteral("Oi{ENTER}tchau") : QString());
+        EXPECT_EQ(d.BandaCabecalho, rev >= 'h' ? 1 : 0);
+        EXPECT_EQ(d.MargemEsquerda, rev >= 'j' ? QStringLiteral("WS-ESQ") : QStringLiteral("\"0\""));
+        EXPECT_EQ(d.MargemSuperior, rev >= 'j' ? QStringLiteral("\"12\"") : QStringLiteral("\"0\""));
+        EXPECT_EQ(d.BandaRodape, rev >= 'l' ? 1 : 0);
+        EXPECT_EQ(d.Quebras, rev >= 'n' ? QList<int16_t>{1} : QList<int16_t>{});
+        EXPECT_EQ(d.TemCapa, rev >= 'o');
+        EXPECT_EQ(d.EnviarEmail, rev >= 'q');
+        EXPECT_EQ(d.MargemInferior, rev >= 'r' ? QStringLiteral("\"5\"") : QStringLiteral("\"0\""));
+    }
+}
+
+TEST(ArquivoLMT, CabecalhoDesconhecidoEhRecusadoComAMensagemDoEditor)
+{
+    const QByteArray corpo = ArquivoRevisao('t').mid(32);
+    for (const char *cab : {"LumetaEdit 1.0(u)", "LumetaEdit 1.0(T)", "LumetaEdit 1.1(t)", "Lumeta 1.0(t)",
+                            "LumetaEdit 1.0(tt)", "                                "}) {
+        SCOPED_TRACE(cab);
+        QByteArray c(cab);
+        c.append(QByteArray(32 - c.size(), ' '));
+        LayoutDocumento d;
+        EXPECT_EQ(LerLMT(c + corpo, d).resultado, ResultadoLeitura::FormatoInvalido);
+    }
+    // Blanks around the header are allowed, and any revision letter past the field list reads as "t".
+    QByteArray c("   LumetaEdit 1.0(t)");
+    c.append(QByteArray(32 - c.size(), ' '));
+    LayoutDocumento d;
+    EXPECT_EQ(LerLMT(c + corpo, d).resultado, ResultadoLeitura::Ok);
+
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("novo.lmt"));
+    teste::GravarArquivoTeste(caminho, QByteArray("LumetaEdit 1.0(u)               ") + corpo);
+    const ResultadoArquivo r = AbrirArquivoLMT(caminho, d);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.titulo, QStringLiteral("Impossível Abrir"));
+    EXPECT_EQ(r.mensagem, QStringLiteral("Formato inválido!\n\nO arquivo '") + caminho
+                              + QStringLiteral("' não foi salvo pelo LumetaEdit 2.0.7.1.\n\nProvavelmente foi salvo "
+                                               "por uma versão mais recente, tente fazer a atualização."));
+}
+
+TEST(ArquivoLMT, LetrasSemCamposNovosLeemComoAAnterior)
+{
+    for (auto [rev, anterior] : {std::pair{'i', 'h'}, {'k', 'j'}, {'m', 'l'}, {'p', 'o'}}) {
+        QByteArray arq = ArquivoRevisao(anterior);
+        arq[15] = rev;
+        LayoutDocumento a, b;
+        ASSERT_EQ(LerLMT(arq, a).resultado, ResultadoLeitura::Ok) << rev;
+        ASSERT_EQ(LerLMT(ArquivoRevisao(anterior), b).resultado, ResultadoLeitura::Ok);
+        EXPECT_EQ(a, b) << rev;
+    }
+}
+
+TEST(ArquivoLMT, ArquivoTruncadoEmQualquerPontoDaErroDeLeituraSemAlterarODocumento)
+{
+    SessaoEditor s;
+    s.AddBanda(0, false, 30, 100);
+    s.Documento.QuebraPaginaAdd(2);
+    const QByteArray completo = GravarLMT(s.Documento);
+    LayoutDocumento original;
+    original.NomeImpressora = QStringLiteral("intacto");
+    for (qsizetype n = 0; n < completo.size(); ++n) {
+        LayoutDocumento d = original;
+        const LeituraLMT r = LerLMT(completo.left(n), d);
+        ASSERT_EQ(r.resultado, ResultadoLeitura::ErroLeitura) << "corte em " << n;
+        EXPECT_FALSE(r.erro.isEmpty());
+        ASSERT_EQ(d, original);
+    }
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("curto.lmt"));
+    teste::GravarArquivoTeste(caminho, completo.left(100));
+    LayoutDocumento d;
+    const ResultadoArquivo r = AbrirArquivoLMT(caminho, d);
+    EXPECT_FALSE(r.ok);
+    EXPECT_TRUE(r.mensagem.startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '") + caminho
+                                      + QStringLiteral("!\n\n")));
+    EXPECT_GT(r.mensagem.size(), 40 + caminho.size());
+}
+
+TEST(ArquivoLMT, ContagensHostisSaoRecusadasSemAlocarAlemDoArquivo)
+{
+    struct Caso {
+        const char *nome;
+        QByteArray dados;
+    };
+    std::vector<Caso> casos;
+    casos.push_back({"bandas demais", Bytes().cab("t").i16(32767).b});
+    casos.push_back({"bandas negativas", Bytes().cab("t").i16(-5).i16(0).i16(0).i16(0).b});
+    casos.push_back({"itens demais",
+                     Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).str("").i16(1).i16(1).i32(0x7FFFFFFF).i32(1).b});
+    casos.push_back({"itens negativos",
+                     Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).str("").i16(1).i16(1).i32(-1).i32(1).b});
+    casos.push_back({"dimensoes estranhas",
+                     Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).str("").i16(1).i16(7).i32(1).i32(1).b});
+    casos.push_back({"texto maior que o arquivo",
+                     Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).i16(-1).raw("abc").b});
+    QByteArray quebras = GravarLMT(SessaoEditor().Documento);
+    quebras.chop(2 + 2 + 2 + 2 + 5);
+    casos.push_back({"quebras demais", quebras + Bytes().i16(3).i16(1).i32(1000000).i32(1).i16(1).b});
+    for (const Caso &c : casos) {
+        LayoutDocumento d;
+        EXPECT_EQ(LerLMT(c.dados, d).resultado, ResultadoLeitura::ErroLeitura) << c.nome;
+    }
+}
+
+TEST(ArquivoLMT, GravarSubstituiOArquivoEFalhaComMensagemSemPerderOAnterior)
+{
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("rel.lmt"));
+    teste::GravarArquivoTeste(caminho, QByteArray(5000, 'x'));
+    SessaoEditor s;
+    ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
+    EXPECT_EQ(teste::LerArquivo(caminho), GravarLMT(s.Documento));  // replaced, not appended to
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("rel.lmt")});
+
+    const QString semPasta = dir.filePath(QStringLiteral("nao/existe/rel.lmt"));
+    const ResultadoArquivo r = GravarArquivoLMT(semPasta, s.Documento);
+    EXPECT_FALSE(r.ok);
+    EXPECT_TRUE(r.mensagem.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + semPasta
+                                      + QStringLiteral("!\n\n")));
+    EXPECT_TRUE(r.mensagem.contains(QStringLiteral(" - ")));
+
+    // A folder standing where the file should be: the save fails and the folder stays.
+    const QString pasta = dir.filePath(QStringLiteral("pasta.lmt"));
+    QDir(dir.path()).mkdir(QStringLiteral("pasta.lmt"));
+    EXPECT_FALSE(GravarArquivoLMT(pasta, s.Documento).ok);
+    EXPECT_TRUE(QFileInfo(pasta).isDir());
+    EXPECT_EQ(teste::LerArquivo(caminho), GravarLMT(s.Documento));
 }

@@ -24,3 +24,10 @@ QByteArray LerArquivo(const QString &caminho);
 void GravarArquivoTeste(const QString &caminho, const QByteArray &dados);
 
 }  // namespace lumeta::teste
+
+#include <ostream>
+// Readable failure messages for Qt texts.
+inline void PrintTo(const QString &s, std::ostream *os)
+{
+    *os << '"' << s.toStdString() << '"';
+}

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace lumeta::cli {
 
@@ -60,6 +61,15 @@ int main(int argc, char **argv)
     // The tool never opens a window; painting and font metrics work off-screen.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Standard error carries the editor's messages only, so scripts can show
+    // them as they are; Qt's own diagnostics are for developers.
+    if (qEnvironmentVariableIsEmpty("LUMETAEDIT_DEBUG"))
+        qInstallMessageHandler([](QtMsgType tipo, const QMessageLogContext &, const QString &msg) {
+            if (tipo == QtFatalMsg) {
+                std::fprintf(stderr, "%s\n", qPrintable(msg));
+                std::abort();
+            }
+        });
     QGuiApplication app(argc, argv);
     QStringList args = app.arguments().mid(1);
 

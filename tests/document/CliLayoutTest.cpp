@@ -1,0 +1,86 @@
+// The command-line tool as scripts call it: bytes on stdout, messages on
+// stderr, exit status.
+#include "document/ArquivoLMT.h"
+#include "document/Sessao.h"
+#include "support/TestSupport.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+struct Execucao {
+    int codigo;
+    QByteArray saida;
+    QByteArray erros;
+};
+
+Execucao Cli(const QStringList &args)
+{
+    QProcess p;
+    p.start(QStringLiteral(LUMETA_CLI), args);
+    p.waitForFinished(60000);
+    return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+}
+
+}  // namespace
+
+TEST(Cli, NovoTextoEComandosDaoOsBytesDoEditor)
+{
+    QTemporaryDir dir;
+    const QString novo = dir.filePath(QStringLiteral("novo.lmt"));
+    Execucao r = Cli({QStringLiteral("novo"), novo});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(teste::LerArquivo(novo), GravarLMT(SessaoEditor().Documento));
+
+    r = Cli({QStringLiteral("texto"), novo});
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.saida, QByteArray("QJ 92\r\nF 100000Arial\r\nT 009900002000600000100010Texto 1\r\nRH 00018\r\nQL\r\n"));
+
+    SessaoEditor s;
+    s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Preço € à vista");
+    s.AddItem(1, false, 0);
+    s.AddItem(1, false, 0);
+    s.Documento.banda(1).Itens[1].Tipo = TipoComando;
+    s.Documento.banda(1).Itens[1].Texto = QStringLiteral("WS-AÇÃO");
+    s.Documento.banda(1).Itens[2].Tipo = TipoComando;
+    s.Documento.banda(1).Itens[2].Texto = QStringLiteral("WS-FIM");
+    const QString caminho = dir.filePath(QStringLiteral("acentos.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
+    r = Cli({QStringLiteral("texto"), caminho});
+    EXPECT_TRUE(r.saida.contains(QByteArray("T 009900002000600000100010Pre\xE7o \x80 \xE0 vista\r\n")));
+    r = Cli({QStringLiteral("comandos"), caminho});
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.saida, QByteArray("WS-A\xC7\xC3O\r\nWS-FIM\r\n"));
+}
+
+TEST(Cli, ErrosDaoAMensagemDoEditorECodigoDeSaida)
+{
+    QTemporaryDir dir;
+    const QString ruim = dir.filePath(QStringLiteral("ruim.lmt"));
+    teste::GravarArquivoTeste(ruim, "LumetaEdit 1.0(z)               ");
+    Execucao r = Cli({QStringLiteral("texto"), ruim});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_TRUE(r.saida.isEmpty());
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Formato inválido!")));
+
+    r = Cli({QStringLiteral("texto"), dir.filePath(QStringLiteral("nao-existe.lmt"))});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
+
+    r = Cli({QStringLiteral("novo"), dir.filePath(QStringLiteral("sem/pasta.lmt"))});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")));
+
+    r = Cli({QStringLiteral("texto")});
+    EXPECT_EQ(r.codigo, 2);
+    r = Cli({QStringLiteral("inexistente")});
+    EXPECT_EQ(r.codigo, 2);
+    r = Cli({QStringLiteral("ajuda")});
+    EXPECT_EQ(r.codigo, 0);
+    for (const char *cmd : {"novo SAIDA.lmt", "texto ARQUIVO.lmt", "comandos ARQUIVO.lmt"})
+        EXPECT_TRUE(r.saida.contains(cmd)) << cmd;
+}

@@ -1,0 +1,100 @@
+#include "output/Macros.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+TEST(Macros, ExpandeParaAsFormasDeExibicaoEmPortugues)
+{
+    const QLocale ptBR(QLocale::Portuguese, QLocale::Brazil);
+    const QDateTime quarta(QDate(2026, 3, 4), QTime(7, 5, 9));  // a Wednesday
+    EXPECT_EQ(ExpandirMacros(QStringLiteral("Página (%_PAG_%) de (%_pgs_%)"), 1, quarta, ptBR),
+              QStringLiteral("Página 1 de 10"));
+    EXPECT_EQ(ExpandirMacros(QStringLiteral("(%_zpg_%)/(%_ZPS_%) p(%_pag_%)"), 37, quarta, ptBR),
+              QStringLiteral("00037/00010 p37"));
+    EXPECT_EQ(ExpandirMacros(QStringLiteral("(%_sem_%), (%_dia_%) de (%_msn_%) de (%_ano_%) (%_hor_%):(%_min_%):(%_seg_%)"),
+                             1, quarta, ptBR),
+              QStringLiteral("Quarta-feira, 04 de março de 2026 07:05:09"));
+    EXPECT_EQ(ExpandirMacros(QStringLiteral("(%_mes_%)"), 1, quarta, ptBR), QStringLiteral("03"));
+    // Variable macros and unknown keys are the host's business: shown as written.
+    EXPECT_EQ(ExpandirMacros(QStringLiteral("(%_07_%) (%_xyz_%) (%_pag"), 1, quarta, ptBR),
+              QStringLiteral("(%_07_%) (%_xyz_%) (%_pag"));
+}
+
+TEST(Macros, VariavelDeCabecalhoERodapeLeDoisDigitos)
+{
+    EXPECT_EQ(MacroVariavel(QStringLiteral("7")), QStringLiteral("(%_07_%)"));
+    EXPECT_EQ(MacroVariavel(QStringLiteral(" 5")), QStringLiteral("(%_05_%)"));
+    EXPECT_EQ(MacroVariavel(QStringLiteral("123")), QStringLiteral("(%_12_%)"));
+    EXPECT_EQ(MacroVariavel(QStringLiteral("x")), QStringLiteral("(%_00_%)"));
+    EXPECT_EQ(MacroVariavel(QStringLiteral("4x")), QStringLiteral("(%_04_%)"));
+    EXPECT_EQ(MacroVariavel(QString()), QString());
+    EXPECT_EQ(TabelaMacros()[0].macro, std::string("(%_pag_%)"));
+    EXPECT_EQ(QString::fromUtf8(TabelaMacros()[12].legenda), QStringLiteral("Variável de cabeçalho e rodapé"));
+    EXPECT_TRUE(PerguntaVariavelMacro().endsWith(QStringLiteral("Ex.: 01 Valor\n\nDigite o número da variável (00 até 99):")));
+}
+
+TEST(Macros, MacrosDeCorDaoOsTresRGBsEOTextoSemElas)
+{
+    CoresMacro c = MacroColor(QStringLiteral("<%_F,255,0,0_%>Total"));
+    EXPECT_EQ(c.texto, QStringLiteral("Total"));
+    EXPECT_EQ(c.fundo, 255);
+    EXPECT_EQ(c.frente, -1);
+    EXPECT_EQ(c.linha, -1);
+
+    c = MacroColor(QStringLiteral("<%_T, 0 , 128 , 255 _%>x"));
+    EXPECT_EQ(c.frente, 0 + 256 * 128 + 65536 * 255);
+    EXPECT_EQ(c.texto, QStringLiteral("x"));
+    EXPECT_EQ(MacroColor(QStringLiteral("<%_F,300,0,0_%>")).fundo, 44);
+    EXPECT_EQ(MacroColor(QStringLiteral("<%_L,1.6,0,-1_%>")).linha, 2 + 65536 * 255);
+
+    c = MacroColor(QStringLiteral("<%_F,1,2_%>resto"));
+    EXPECT_EQ(c.texto, QStringLiteral("resto"));
+    EXPECT_EQ(c.fundo, -1);
+
+    c = MacroColor(QStringLiteral("<%_F,1,2,3_%>a<%_F,4,5,6_%>b<%_l,7,8,9_%>"));
+    EXPECT_EQ(c.texto, QStringLiteral("ab"));
+    EXPECT_EQ(c.fundo, 4 + 256 * 5 + 65536 * 6);
+    EXPECT_EQ(c.linha, 7 + 256 * 8 + 65536 * 9);
+
+    // An unclosed macro is plain text, and reading it ends.
+    c = MacroColor(QStringLiteral("<%_T,9,9,9_%>a <%_F,1,1,1 sem fim"));
+    EXPECT_EQ(c.texto, QStringLiteral("a <%_F,1,1,1 sem fim"));
+    EXPECT_EQ(c.fundo, -1);
+    EXPECT_EQ(c.frente, 9 + 256 * 9 + 65536 * 9);
+}
+
+TEST(Macros, RemoverMacroDeUmaLetraMantemAsOutras)
+{
+    const QString t = QStringLiteral("<%_F,1,2,3_%><%_T,4,5,6_%>Nome<%_F,1,2,3_%>");
+    EXPECT_EQ(MacroColorRemover(t, QLatin1Char('F')), QStringLiteral("<%_T,4,5,6_%>Nome"));
+    EXPECT_EQ(MacroColorRemover(t, QLatin1Char('T')), QStringLiteral("<%_F,1,2,3_%>Nome<%_F,1,2,3_%>"));
+    EXPECT_EQ(MacroColorRemover(QStringLiteral("a<%_L,1,2,3"), QLatin1Char('L')), QStringLiteral("a<%_L,1,2,3"));
+    EXPECT_EQ(MontarMacroColor(QLatin1Char('F'), 255 + 256 * 16 + 65536 * 1), QStringLiteral("<%_F,255,16,1_%>"));
+    // Picking a free background twice leaves one macro, the latest.
+    QString texto = QStringLiteral("Total");
+    for (int rgb : {0x0000FF, 0x00FF00})
+        texto = MontarMacroColor(QLatin1Char('F'), rgb) + MacroColorRemover(texto, QLatin1Char('F'));
+    EXPECT_EQ(texto, QStringLiteral("<%_F,0,255,0_%>Total"));
+}
+
+TEST(Macros, TagsValemParaPalavrasInteiras)
+{
+    auto estilos = [](const QString &frase, unsigned inicial) {
+        unsigned estado = inicial;
+        QStringList r;
+        for (const QString &p : frase.split(QLatin1Char(' '))) {
+            const PalavraEstilizada w = AplicarTags(p, estado);
+            r << w.texto + QLatin1Char('/') + QString::number(w.estilo);
+        }
+        return r;
+    };
+    EXPECT_EQ(estilos(QStringLiteral("{n}Total:{/n} 100"), 0), (QStringList{"Total:/1", "100/0"}));
+    EXPECT_EQ(estilos(QStringLiteral("um {N}dois três"), 0), (QStringList{"um/0", "dois/1", "três/1"}));
+    EXPECT_EQ(estilos(QStringLiteral("a{i}b c{/I} d {s}{r}e{/s} f"), 0),
+              (QStringList{"ab/2", "c/2", "d/0", "e/12", "f/8"}));
+    // Words before any tag keep the item's own styles, which a closing tag also ends.
+    EXPECT_EQ(estilos(QStringLiteral("x y{/n} z"), EstiloNegrito), (QStringList{"x/1", "y/1", "z/0"}));
+    EXPECT_EQ(RemoverTags(QStringLiteral("{N}a{/n} {e}b {x}")), QStringLiteral("a {e}b {x}"));
+}

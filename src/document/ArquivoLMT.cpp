@@ -401,6 +401,8 @@ ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados)
         descricao += QStringLiteral(" (") + f.errorString() + QLatin1Char(')');
     f.cancelWriting();
     r.ok = false;
+    r.numeroErro = numero;
+    r.descricaoErro = descricao;
     r.mensagem = MensagemErroGravar(caminho, numero, descricao);
     return r;
 }

@@ -39,6 +39,8 @@ struct ResultadoArquivo {
     ResultadoLeitura leitura = ResultadoLeitura::Ok;
     QString mensagem;  // ready to show when !ok
     QString titulo;
+    int numeroErro = 0;     // a failed write: the error number and description
+    QString descricaoErro;  // that the message carries, for other messages
 };
 
 // Reads a file from disk into doc; doc is unchanged unless ok.

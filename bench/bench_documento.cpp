@@ -3,6 +3,7 @@
 #include "document/ArquivoLMT.h"
 #include "output/TextoComandos.h"
 
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <vector>
@@ -68,6 +69,30 @@ void BM_LerLMT(benchmark::State &st)
     st.SetLabel("base=BM_memcpy/arquivo");
 }
 
+// The same through the file system: temporary file, rename, read back.
+void BM_SalvarArquivo(benchmark::State &st)
+{
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("grande.lmt"));
+    for (auto _ : st)
+        benchmark::DoNotOptimize(GravarArquivoLMT(caminho, Grande()).ok);
+    st.SetBytesProcessed(int64_t(st.iterations()) * GravarLMT(Grande()).size());
+    st.SetLabel("base=BM_memcpy/arquivo");
+}
+
+void BM_AbrirArquivo(benchmark::State &st)
+{
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("grande.lmt"));
+    GravarArquivoLMT(caminho, Grande());
+    for (auto _ : st) {
+        LayoutDocumento doc;
+        benchmark::DoNotOptimize(AbrirArquivoLMT(caminho, doc).ok);
+    }
+    st.SetBytesProcessed(int64_t(st.iterations()) * GravarLMT(Grande()).size());
+    st.SetLabel("base=BM_memcpy/arquivo");
+}
+
 // memcpy baselines sized like the outputs above, registered once sizes are known.
 const bool registrados = [] {
     clsConcatenarString s;
@@ -79,6 +104,8 @@ const bool registrados = [] {
     benchmark::RegisterBenchmark("BM_memcpy/arquivo", BM_memcpy, arquivo);
     benchmark::RegisterBenchmark("BM_GravarLMT", BM_GravarLMT)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("BM_LerLMT", BM_LerLMT)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_SalvarArquivo", BM_SalvarArquivo)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_AbrirArquivo", BM_AbrirArquivo)->Unit(benchmark::kMillisecond);
     return true;
 }();
 

@@ -54,7 +54,17 @@ public:
         const qsizetype n = uint16_t(i16());
         return De1252(bytes(n), n);
     }
-    QString fixo10() { return De1252(bytes(10), 10); }
+    // Font names and flag strings repeat from item to item: equal bytes share
+    // one string, which saves an allocation per field and memory per item.
+    QString textoRepetido(QString &anterior, QByteArray &bytesAnteriores)
+    {
+        const qsizetype n = uint16_t(i16());
+        return repetido(bytes(n), n, anterior, bytesAnteriores);
+    }
+    QString fixo10(QString &anterior, QByteArray &bytesAnteriores)
+    {
+        return repetido(bytes(10), 10, anterior, bytesAnteriores);
+    }
 
     // Array header of a record field: returns the element count.
     qsizetype contagemArray(qsizetype minimoElemento)
@@ -72,41 +82,75 @@ public:
     }
 
 private:
+    static QString repetido(const char *d, qsizetype n, QString &anterior, QByteArray &bytesAnteriores)
+    {
+        if (bytesAnteriores.size() != n || std::memcmp(bytesAnteriores.constData(), d, size_t(n)) != 0) {
+            bytesAnteriores = QByteArray(d, n);
+            anterior = De1252(d, n);
+        }
+        return anterior;
+    }
+
     const char *p_;
     const char *fim_;
 };
 
+// The last text of each repeated field, for sharing.
+struct Repetidos {
+    QString nome, linhas, atributos;
+    QByteArray bNome, bLinhas, bAtributos;
+};
+
+// Writes into one buffer grown by doubling; the final size is set once at the end.
 class Escritor {
 public:
-    QByteArray b;
+    explicit Escritor(qsizetype estimativa) { b_.resize(estimativa); }
+
+    QByteArray terminar()
+    {
+        b_.truncate(n_);
+        return std::move(b_);
+    }
+    char *reservar(qsizetype k)
+    {
+        if (n_ + k > b_.size())
+            b_.resize(std::max(b_.size() * 2, n_ + k));
+        char *p = b_.data() + n_;
+        n_ += k;
+        return p;
+    }
     void i16(int16_t v)
     {
-        const char c[2] = {char(v & 0xFF), char((uint16_t(v) >> 8) & 0xFF)};
-        b.append(c, 2);
+        char *p = reservar(2);
+        p[0] = char(v & 0xFF);
+        p[1] = char((uint16_t(v) >> 8) & 0xFF);
     }
     void i32(int32_t v)
     {
         const uint32_t u = uint32_t(v);
-        const char c[4] = {char(u & 0xFF), char((u >> 8) & 0xFF), char((u >> 16) & 0xFF), char(u >> 24)};
-        b.append(c, 4);
+        char *p = reservar(4);
+        p[0] = char(u & 0xFF);
+        p[1] = char((u >> 8) & 0xFF);
+        p[2] = char((u >> 16) & 0xFF);
+        p[3] = char(u >> 24);
     }
-    void u8(uint8_t v) { b.append(char(v)); }
+    void u8(uint8_t v) { *reservar(1) = char(v); }
     void booleano(bool v) { i16(v ? -1 : 0); }
+    void bytes(const char *d, qsizetype k) { std::memcpy(reservar(k), d, size_t(k)); }
     void texto(const QString &s)
     {
-        const qsizetype pos = b.size();
-        i16(0);
-        AcrescentarEm1252(b, s);
-        const auto n = uint16_t(b.size() - pos - 2);
-        b[pos] = char(n & 0xFF);
-        b[pos + 1] = char(n >> 8);
+        // The count is 16 bits: a longer text is cut rather than corrupting
+        // every field after it.
+        const QString t = s.size() > 0xFFFF ? s.left(0xFFFF) : s;
+        i16(int16_t(uint16_t(t.size())));
+        EscreverEm1252(reservar(t.size()), t);
     }
     // Fixed 10-character flags: padded or cut so the record keeps its width.
     void fixo10(const QString &s)
     {
-        QByteArray t = Para1252(s.left(10));
-        t.append(QByteArray(10 - t.size(), '0'));
-        b.append(t);
+        char *p = reservar(10);
+        const QString t = s.size() == 10 ? s : s.left(10).leftJustified(10, QLatin1Char('0'));
+        EscreverEm1252(p, t);
     }
     void cabecalhoArray(qsizetype n)
     {
@@ -118,13 +162,17 @@ public:
         i32(int32_t(n));
         i32(1);
     }
+
+private:
+    QByteArray b_;
+    qsizetype n_ = 0;
 };
 
-Item lerItem(Leitor &l, char rev)
+Item lerItem(Leitor &l, char rev, Repetidos &r)
 {
     Item it;
     it.Texto = l.texto();
-    it.Fonte.Nome = l.texto();
+    it.Fonte.Nome = l.textoRepetido(r.nome, r.bNome);
     it.Fonte.Tamanho = l.i16();
     it.Fonte.Negrito = l.booleano();
     it.Fonte.Italico = l.booleano();
@@ -132,8 +180,8 @@ Item lerItem(Leitor &l, char rev)
     it.Fonte.Tachado = l.booleano();
     it.Esquerda = l.i32();
     it.Largura = l.i32();
-    it.Linhas = l.fixo10();
-    it.Atributos = l.fixo10();
+    it.Linhas = l.fixo10(r.linhas, r.bLinhas);
+    it.Atributos = l.fixo10(r.atributos, r.bAtributos);
     it.CorTexto = l.u8();
     it.CorFundo = l.u8();
     if (rev >= 'd') {
@@ -147,7 +195,7 @@ Item lerItem(Leitor &l, char rev)
     return it;
 }
 
-Banda lerBanda(Leitor &l, char rev)
+Banda lerBanda(Leitor &l, char rev, Repetidos &r)
 {
     Banda b;
     b.Topo = l.i32();
@@ -161,7 +209,7 @@ Banda lerBanda(Leitor &l, char rev)
     const qsizetype n = l.contagemArray(rev >= 'd' ? kMinItem : kMinItemAntigo);
     b.Itens.reserve(n);
     for (qsizetype i = 0; i < n; ++i)
-        b.Itens.append(lerItem(l, rev));
+        b.Itens.append(lerItem(l, rev, r));
     return b;
 }
 
@@ -222,8 +270,9 @@ LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
         if (numBandas < 0 || numBandas > l.restante() / kMinBanda)
             throw Corrompido{};
         doc.Bandas.reserve(numBandas);
+        Repetidos repetidos;
         for (int i = 0; i < numBandas; ++i)
-            doc.Bandas.append(lerBanda(l, rev));
+            doc.Bandas.append(lerBanda(l, rev, repetidos));
         doc.Paisagem = l.booleano();
         doc.Imprimir = l.booleano();
         doc.Visivel = l.booleano();
@@ -281,15 +330,14 @@ LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
 
 QByteArray GravarLMT(const LayoutDocumento &doc)
 {
-    Escritor e;
     qsizetype estimativa = 256;
     for (const Banda &b : doc.Bandas)
-        estimativa += 32 + b.Comentario.size() + b.Itens.size() * 72;
-    e.b.reserve(estimativa);
+        estimativa += 32 + b.Comentario.size() + b.Itens.size() * 80;
+    Escritor e(estimativa);
 
     QByteArray cab = kCabecalho + "(" + RevisaoAtual + ")";
     cab.append(QByteArray(kTamanhoCabecalho - cab.size(), ' '));
-    e.b.append(cab);
+    e.bytes(cab.constData(), cab.size());
     e.i16(int16_t(doc.Bandas.size()));
     for (const Banda &b : doc.Bandas) {
         e.i32(b.Topo);
@@ -320,7 +368,7 @@ QByteArray GravarLMT(const LayoutDocumento &doc)
     e.booleano(doc.TemCapa);
     e.booleano(doc.EnviarEmail);
     e.texto(doc.MargemInferior);
-    return e.b;
+    return e.terminar();
 }
 
 QString MensagemFormatoInvalido(const QString &caminho)

@@ -65,6 +65,13 @@ void Configuracoes::Ler()
     FontePadrao.Sublinhado = lerBooleano(*s, "FontUnderline", false);
     FontePadrao.Tachado = lerBooleano(*s, "FontStrikethrough", false);
     CPY = lerTexto(*s, "CPY", QString());
+    s.reset();
+    LerRecentes();
+}
+
+void Configuracoes::LerRecentes()
+{
+    std::unique_ptr<QSettings> s(AbrirConfig());
     // The list stops at the first empty entry, whatever follows it.
     ArquivosRecentes.clear();
     for (int k = 1; k <= 4; ++k) {

@@ -27,6 +27,8 @@ struct Configuracoes {
 
     // Reads every key with its default.
     void Ler();
+    // Reads only the recent-file list, which stops at the first empty entry.
+    void LerRecentes();
     // The keys written at shut-down from the current view state.
     void GravarAoSair() const;
     void GravarCPY() const;

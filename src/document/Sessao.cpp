@@ -1,6 +1,7 @@
 #include "document/Sessao.h"
 
 #include "document/ArquivoLMT.h"
+#include "output/CopiarComo.h"
 
 namespace lumeta {
 
@@ -52,6 +53,9 @@ bool SessaoEditor::SalvarLMT(bool proporNomeAnterior)
         }
         NomeArquivo = escolhido;
     }
+    // The copybook comes first; its failure is reported and never keeps the
+    // layout from being saved.
+    GravarCopybookAoSalvar(Documento, NomeArquivo, Config.NoCobolUsarString, Ui);
     const ResultadoArquivo r = GravarArquivoLMT(NomeArquivo, Documento);
     if (!r.ok) {
         if (Ui)

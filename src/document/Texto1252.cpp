@@ -36,14 +36,18 @@ QString De1252(const char *dados, qsizetype n)
     return s;
 }
 
+void EscreverEm1252(char *d, const QString &texto)
+{
+    const QChar *s = texto.constData();
+    for (qsizetype i = 0; i < texto.size(); ++i)
+        d[i] = ParaByte(s[i].unicode());
+}
+
 void AcrescentarEm1252(QByteArray &destino, const QString &texto)
 {
     const qsizetype base = destino.size();
     destino.resize(base + texto.size());
-    char *d = destino.data() + base;
-    const QChar *s = texto.constData();
-    for (qsizetype i = 0; i < texto.size(); ++i)
-        d[i] = ParaByte(s[i].unicode());
+    EscreverEm1252(destino.data() + base, texto);
 }
 
 QByteArray Para1252(const QString &texto)

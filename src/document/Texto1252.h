@@ -14,5 +14,7 @@ inline QString De1252(const QByteArray &b) { return De1252(b.constData(), b.size
 // Characters outside the code page become '?'.
 QByteArray Para1252(const QString &texto);
 void AcrescentarEm1252(QByteArray &destino, const QString &texto);
+// Writes texto.size() bytes at destino.
+void EscreverEm1252(char *destino, const QString &texto);
 
 }  // namespace lumeta

@@ -320,3 +320,14 @@ TEST(ArquivoLMT, GravarSubstituiOArquivoEFalhaComMensagemSemPerderOAnterior)
     EXPECT_TRUE(QFileInfo(pasta).isDir());
     EXPECT_EQ(teste::LerArquivo(caminho), GravarLMT(s.Documento));
 }
+
+TEST(ArquivoLMT, TextoLongoDemaisEhCortadoSemCorromperOsCamposSeguintes)
+{
+    SessaoEditor s;
+    s.Documento.banda(1).Itens[0].Texto = QString(70000, QLatin1Char('x'));
+    s.Documento.MargemInferior = QStringLiteral("WS-FIM");
+    LayoutDocumento lido;
+    ASSERT_EQ(LerLMT(GravarLMT(s.Documento), lido).resultado, ResultadoLeitura::Ok);
+    EXPECT_EQ(lido.banda(1).Itens[0].Texto.size(), 65535);
+    EXPECT_EQ(lido.MargemInferior, QStringLiteral("WS-FIM"));
+}

@@ -44,7 +44,8 @@ public:
     {
         if (entradas.empty())
             return std::nullopt;
-        auto r = entradas.front();
+        std::optional<QString> r;
+        r.swap(entradas.front());
         entradas.pop_front();
         return r;
     }

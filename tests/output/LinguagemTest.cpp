@@ -1,0 +1,266 @@
+// Language definition files: bytes on disk, defaults, names, listing, and the
+// messages of files that cannot be used.
+#include "output/Linguagem.h"
+
+#include "support/InterfaceRoteirizada.h"
+#include "support/TestSupport.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+using teste::Bytes;
+
+namespace {
+
+class PastaLinguagensTeste : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dir.isValid());
+        anterior = qgetenv(VariavelPastaLinguagens);
+        qputenv(VariavelPastaLinguagens, dir.path().toLocal8Bit());
+    }
+    void TearDown() override
+    {
+        if (anterior.isEmpty())
+            qunsetenv(VariavelPastaLinguagens);
+        else
+            qputenv(VariavelPastaLinguagens, anterior);
+    }
+    QString caminho(const QString &nome) const { return dir.filePath(nome); }
+
+    QTemporaryDir dir;
+    QByteArray anterior;
+};
+
+QByteArray em1252(const char *utf8)
+{
+    QByteArray b;
+    for (QChar c : QString::fromUtf8(utf8))
+        b.append(char(c.unicode()));  // every test text is Latin-1, which 1252 shares here
+    return b;
+}
+
+}  // namespace
+
+TEST_F(PastaLinguagensTeste, NovaLinguagemGravaOsPadroesByteAByteELeDeVolta)
+{
+    LinguagemDef def;
+    def.ComandoT = QStringLiteral("lixo de antes");
+    teste::InterfaceRoteirizada ui;
+    ASSERT_TRUE(NovaLin(QStringLiteral("Cobol ANSI"), def, &ui));
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+    EXPECT_TRUE(def.EhCobol);
+    EXPECT_EQ(CaminhoLinguagem(QStringLiteral("Cobol ANSI")), caminho(QStringLiteral("Cobol ANSI.lin")));
+
+    const QByteArray esperado =
+        Bytes()
+            .i32(1)
+            .str("")
+            .str(em1252("*** Aqui podem ser inseridos comandos ou comentários iniciais ***"))
+            .str(em1252("§c = Comando\r\n§t = Tamanho 9(2)\r\n§n = Negrito 9(1)\r\n§i = Itálico 9(1)\r\n"
+                        "§s = Sublinhado 9(1)\r\n§r = Riscado 9(1)\r\n§f = Nome da Fonte x(n)"))
+            .str(em1252("§c = Comando\r\n§cl = Cor da Linha 9(2)\r\n§cf = Cor do fundo 9(2)\r\n"
+                        "§ei = Esquerda do item 9(5)\r\n§ci = Comprimento do item 9(5)\r\n"
+                        "§ai = Alinhamento do item 9(10)\r\n§el = Espessura da linha 9(2)"))
+            .str(em1252("§c = Comando\r\n§cl = Cor do texto 9(2)\r\n§cf = Cor do fundo 9(2)\r\n"
+                        "§ei = Esquerda do item 9(5)\r\n§ci = Comprimento do item 9(5)\r\n"
+                        "§ai = Alinhamento do item 9(10)\r\n§t = Texto x(n)"))
+            .str(em1252("§c = Comando\r\n§rh = Row Height"))
+            .str(em1252("§c = Comando"))
+            .str("")
+            .b;
+    const QByteArray gravado = teste::LerArquivo(caminho(QStringLiteral("Cobol ANSI.lin")));
+    EXPECT_EQ(gravado, esperado);
+    // One byte a character: "§" is A7 and "á" E1, never two UTF-8 bytes.
+    EXPECT_TRUE(gravado.contains(QByteArray("\xA7i = It\xE1lico 9(1)\r\n")));
+    EXPECT_EQ(gravado.left(6), QByteArray("\x01\x00\x00\x00\x00\x00", 6));
+
+    LinguagemDef lida;
+    lida.CobolString = false;
+    ASSERT_TRUE(LerLinguagem(QStringLiteral("Cobol ANSI"), lida, &ui));
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+    EXPECT_TRUE(lida.EhCobol);
+    EXPECT_FALSE(lida.CobolString);  // a user setting, not part of the file
+    LinguagemDef padrao = LinguagemPadrao();
+    padrao.EhCobol = true;
+    padrao.CobolString = false;
+    EXPECT_EQ(lida, padrao);
+
+    // A name without "cobol" clears the flag on the next read.
+    ASSERT_TRUE(NovaLin(QStringLiteral("Clipper"), lida, &ui));
+    EXPECT_FALSE(lida.EhCobol);
+    lida.EhCobol = true;
+    ASSERT_TRUE(LerLinguagem(QStringLiteral("Clipper"), lida, &ui));
+    EXPECT_FALSE(lida.EhCobol);
+}
+
+TEST_F(PastaLinguagensTeste, ModelosVaziosEAcentuadosNoArquivoEGravacaoQueSubstitui)
+{
+    LinguagemDef def;
+    def.DefVariaveis = QStringLiteral("Itálico €");
+    def.ComandoF = QStringLiteral("move \"§c§t\" to WS-L");
+    def.ChamadaViewer = QString(65535, QLatin1Char('x'));
+    ASSERT_TRUE(SalvarLin(QStringLiteral("acentos"), def, nullptr));
+    const QByteArray b = teste::LerArquivo(caminho(QStringLiteral("acentos.lin")));
+    // 9 bytes of "Itálico €": the euro sign is the single byte 80.
+    EXPECT_EQ(b.mid(4, 11), QByteArray("\x09\x00It\xE1lico \x80", 11));
+    // The empty opening comment is the two bytes 0, 0.
+    EXPECT_EQ(b.mid(15, 2), QByteArray("\x00\x00", 2));
+    EXPECT_EQ(b.size(), 4 + 8 * 2 + 9 + def.ComandoF.size() + 65535);
+
+    LinguagemDef lida;
+    ASSERT_TRUE(LerLinguagem(QStringLiteral("acentos"), lida, nullptr));
+    EXPECT_EQ(ModelosLinguagem(lida), ModelosLinguagem(def));
+
+    // Saving again replaces the file, never appends to it.
+    def.ChamadaViewer = QStringLiteral("call");
+    ASSERT_TRUE(SalvarLin(QStringLiteral("acentos"), def, nullptr));
+    EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("acentos.lin"))).size(), 4 + 8 * 2 + 9 + 19 + 4);
+
+    // A template one byte too long for its count is refused and the old file stays.
+    teste::InterfaceRoteirizada ui;
+    def.ComandoL = QString(65536, QLatin1Char('y'));
+    EXPECT_FALSE(SalvarLin(QStringLiteral("acentos"), def, &ui));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu o erro 6 ao salvar a linguagem!\n\n")));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
+    EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("acentos.lin"))).size(), 4 + 8 * 2 + 9 + 19 + 4);
+
+    // A target that cannot be written (a folder of that name) is reported.
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    ui.mensagens.clear();
+    EXPECT_FALSE(SalvarLin(QStringLiteral("pasta"), LinguagemPadrao(), &ui));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu o erro ")));
+    EXPECT_TRUE(ui.mensagens[0].texto.contains(QStringLiteral(" ao salvar a linguagem!\n\n")));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
+}
+
+TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
+{
+    const auto lerBytes = [&](const QByteArray &dados) {
+        teste::GravarArquivoTeste(caminho(QStringLiteral("hostil.lin")), dados);
+        teste::InterfaceRoteirizada ui;
+        LinguagemDef def;
+        def.ComandoT = QStringLiteral("anterior");
+        const bool ok = LerLinguagem(QStringLiteral("hostil"), def, &ui);
+        EXPECT_EQ(def.ComandoT, ok ? def.ComandoT : QStringLiteral("anterior"));  // untouched on failure
+        return std::make_pair(ok, ui.mensagens);
+    };
+    const QString invalido = QStringLiteral("O arquivo '") + caminho(QStringLiteral("hostil.lin"))
+        + QStringLiteral("' é inválido!");
+    const QString curto = QStringLiteral("Ocorreu o erro 62 ao ler a linguagem!\n\nEntrada além do fim do arquivo");
+
+    const Bytes oito = [] {
+        Bytes b;
+        b.i32(1);
+        for (int i = 0; i < 8; ++i)
+            b.str("ab");
+        return b;
+    }();
+    struct Caso {
+        const char *nome;
+        QByteArray dados;
+        QString mensagem;
+    };
+    const Caso casos[] = {
+        {"versao 2", Bytes().i32(2).str("a").b, invalido},
+        {"versao 1 em big-endian", Bytes().raw(QByteArray("\0\0\0\1", 4)).b, invalido},
+        {"versao -1", Bytes().i32(-1).b, invalido},
+        {"arquivo vazio", QByteArray(), invalido},
+        {"tres bytes", QByteArray("\1\0\0", 3), invalido},
+        {"so a versao", Bytes().i32(1).b, curto},
+        {"contagem maxima sem bytes", Bytes().i32(1).str("a").str("b").i16(0xFFFF).raw("xyz").b, curto},
+        {"contagem cortada", Bytes().i32(1).str("a").u8(5).b, curto},
+        {"sete textos", Bytes().i32(1).str("1").str("2").str("3").str("4").str("5").str("6").str("7").b, curto},
+        {"oitavo texto curto", oito.b.left(oito.b.size() - 1), curto},
+    };
+    for (const Caso &c : casos) {
+        SCOPED_TRACE(c.nome);
+        const auto [ok, mensagens] = lerBytes(c.dados);
+        EXPECT_FALSE(ok);
+        ASSERT_EQ(mensagens.size(), 1);
+        EXPECT_EQ(mensagens[0].texto, c.mensagem);
+        EXPECT_EQ(mensagens[0].titulo, QStringLiteral("Ler Linguagem"));
+        EXPECT_EQ(mensagens[0].icone, c.mensagem == invalido ? Icone::Exclamacao : Icone::Critico);
+    }
+
+    // Bytes after the eighth text are not the reader's concern.
+    {
+        const auto [ok, mensagens] = lerBytes(oito.b + QByteArray(100000, '\xFF'));
+        EXPECT_TRUE(ok);
+        EXPECT_TRUE(mensagens.isEmpty());
+    }
+
+    // A missing file, and a folder where the file should be.
+    teste::InterfaceRoteirizada ui;
+    LinguagemDef def;
+    EXPECT_FALSE(LerLinguagem(QStringLiteral("nenhuma"), def, &ui));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto,
+              QStringLiteral("O Arquivo '") + caminho(QStringLiteral("nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    EXPECT_FALSE(LerLinguagem(QStringLiteral("pasta"), def, &ui));
+    ASSERT_EQ(ui.mensagens.size(), 2);
+    EXPECT_TRUE(ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu o erro ")));
+
+    // Random garbage, and random cuts of a valid file: a message or success, never a crash.
+    QRandomGenerator rng(20240611);
+    const QByteArray valido = CodificarLin(LinguagemPadrao());
+    for (int i = 0; i < 3000; ++i) {
+        QByteArray d;
+        if (i % 2) {
+            d = valido.left(rng.bounded(int(valido.size()) + 1));
+        } else {
+            d.resize(rng.bounded(64));
+            for (char &c : d)
+                c = char(rng.bounded(256));
+            if (i % 4 == 0 && d.size() >= 4)
+                d.replace(0, 4, QByteArray("\1\0\0\0", 4));
+        }
+        LinguagemDef x;
+        const LeituraLin r = DecodificarLin(d, x);
+        if (r.resultado == ResultadoLin::Ok)
+            ASSERT_EQ(CodificarLin(x), d.left(CodificarLin(x).size()));
+        else
+            ASSERT_TRUE(r.resultado == ResultadoLin::Invalido || r.resultado == ResultadoLin::ErroLeitura);
+    }
+}
+
+TEST_F(PastaLinguagensTeste, NomesListaEPasta)
+{
+    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("meu:cobol")), QStringLiteral("meu_cobol"));
+    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("a\\b/c:d*e?f\"g<h>i|j k.l")), QStringLiteral("a_b_c_d_e_f_g_h_i_j k.l"));
+    EXPECT_TRUE(NomeEhCobol(QStringLiteral("meu_cobol")));
+    EXPECT_TRUE(NomeEhCobol(QStringLiteral("MicroFocus COBOL 85")));
+    EXPECT_TRUE(NomeEhCobol(QStringLiteral("xCoBoLx")));
+    EXPECT_FALSE(NomeEhCobol(QStringLiteral("Cobo l")));
+    EXPECT_FALSE(NomeEhCobol(QStringLiteral("Delphi")));
+
+    teste::InterfaceRoteirizada ui;
+    LinguagemDef def;
+    ASSERT_TRUE(NovaLin(LimparNomeLinguagem(QStringLiteral("meu:cobol")), def, &ui));
+    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("meu_cobol.lin"))));
+    EXPECT_TRUE(def.EhCobol);
+    EXPECT_TRUE(LinguagemExiste(QStringLiteral("meu_cobol")));
+    EXPECT_FALSE(LinguagemExiste(QStringLiteral("meu:cobol")));
+    EXPECT_EQ(MensagemLinguagemExiste(QStringLiteral("meu_cobol")), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
+
+    for (const char *n : {"Zeta.lin", "alfa.lin", "Beta.LIN", "leia.txt", "semextensao"})
+        teste::GravarArquivoTeste(caminho(QString::fromUtf8(n)), CodificarLin(LinguagemPadrao()));
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    EXPECT_EQ(ListarLinguagens(true),
+              (QStringList{QStringLiteral("alfa"), QStringLiteral("Beta"), QStringLiteral("meu_cobol"), QStringLiteral("Zeta")}));
+    EXPECT_EQ(ListarLinguagens(false),
+              (QStringList{QStringLiteral("Beta"), QStringLiteral("Zeta"), QStringLiteral("alfa"), QStringLiteral("meu_cobol")}));
+
+    EXPECT_EQ(PastaLinguagens(), dir.path());
+    qunsetenv(VariavelPastaLinguagens);
+    EXPECT_EQ(PastaLinguagens(), QCoreApplication::applicationDirPath());
+}

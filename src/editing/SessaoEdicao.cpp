@@ -1,4 +1,4 @@
-#include "document/SessaoEdicao.h"
+#include "editing/SessaoEdicao.h"
 
 #include "controls/ModuloAssociar.h"
 #include "document/ModuloLumetaEdit.h"

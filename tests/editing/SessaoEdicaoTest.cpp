@@ -1,7 +1,7 @@
 #include "controls/ModuloAssociar.h"
 #include "document/ArquivoLMT.h"
 #include "document/ModuloLumetaEdit.h"
-#include "document/SessaoEdicao.h"
+#include "editing/SessaoEdicao.h"
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 #include "support/TestSupport.h"

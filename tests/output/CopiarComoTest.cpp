@@ -1,0 +1,570 @@
+// Copy-as code: template filling, the COBOL splitter line by line, the
+// copybook file and its place in saving a layout, and the CLI commands.
+#include "output/CopiarComo.h"
+
+#include "document/ArquivoLMT.h"
+#include "document/Sessao.h"
+#include "document/Texto1252.h"
+#include "output/TextoComandos.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+const QString kCRLF = QStringLiteral("\r\n");
+
+QString linhas(std::initializer_list<QString> l)
+{
+    QString r;
+    for (const QString &s : l)
+        r += s + kCRLF;
+    return r;
+}
+
+QString em(int n)
+{
+    return QString(n, QLatin1Char(' '));
+}
+
+// The item of the command text's own example: "Total", 200 pixels at 0.
+LayoutDocumento layoutDoExemplo(const QString &texto)
+{
+    LayoutDocumento doc;
+    Banda b;
+    Item it;
+    it.Texto = texto;
+    it.Largura = 200;
+    b.Itens.append(it);
+    doc.Bandas.append(b);
+    return doc;
+}
+
+LinguagemDef cobolDoExemplo(bool cobolString)
+{
+    LinguagemDef l;
+    l.ComandoT = QStringLiteral("           move \"§c§cl§cf§ei§ci§ai§t\" to WS-LINHA.");
+    l.EhCobol = true;
+    l.CobolString = cobolString;
+    return l;
+}
+
+// Only the lines the text template produced (the other templates are empty).
+QStringList linhasNaoVazias(const QString &codigo)
+{
+    QStringList r;
+    for (const QString &l : codigo.split(kCRLF))
+        if (!l.isEmpty())
+            r.append(l);
+    return r;
+}
+
+}  // namespace
+
+TEST(CopiarComo, ExemploDoMoveCurtoMantidoELongoQuebradoNasDuasFormas)
+{
+    const QString curta = QStringLiteral("           move \"T 009900002001960000100010Total\" to WS-LINHA.");
+    ASSERT_EQ(curta.size(), 62);
+    for (bool forma : {false, true})
+        EXPECT_EQ(linhasNaoVazias(GerarCopiarComo(layoutDoExemplo(QStringLiteral("Total")), cobolDoExemplo(forma))),
+                  QStringList{curta});
+
+    const QString quarenta = QStringLiteral("Relatorio mensal de vendas por filial 01");
+    ASSERT_EQ(quarenta.size(), 40);
+    const LayoutDocumento doc = layoutDoExemplo(quarenta);
+
+    // Continuation: the open literal runs to column 72, goes on after a "-" in
+    // column 7, and the rest of the statement follows on its own line.
+    const QStringList continuacao = linhasNaoVazias(GerarCopiarComo(doc, cobolDoExemplo(false)));
+    ASSERT_EQ(continuacao.size(), 3);
+    EXPECT_EQ(continuacao[0], QStringLiteral("           move \"T 009900002001960000100010Relatorio mensal de vendas po"));
+    EXPECT_EQ(continuacao[0].size(), 72);
+    EXPECT_EQ(continuacao[1], QStringLiteral("      -    \"r filial 01\""));
+    EXPECT_EQ(continuacao[1].size(), 11 + 1 + 12);
+    EXPECT_EQ(continuacao[2], em(14) + QStringLiteral(" to WS-LINHA."));
+
+    // STRING: the target is cleared, the literal is cut into closed pieces
+    // ending in column 72, and "to" becomes "delimited by size into".
+    const QStringList string = linhasNaoVazias(GerarCopiarComo(doc, cobolDoExemplo(true)));
+    ASSERT_EQ(string.size(), 4);
+    EXPECT_EQ(string[0], QStringLiteral("           move spaces to WS-LINHA."));
+    EXPECT_EQ(string[1], QStringLiteral("           string \"T 009900002001960000100010Relatorio mensal de vendas\""));
+    EXPECT_EQ(string[1].size(), 72);
+    EXPECT_EQ(string[2], QStringLiteral("           \" por filial 01\""));
+    EXPECT_EQ(string[3], em(14) + QStringLiteral(" delimited by size into WS-LINHA."));
+}
+
+TEST(QuebrarLinhasCobol, LimitesAspasCaudaELinhasIncompletas)
+{
+    // Exactly 72 stays; 73 is cut. Text after the last line end is dropped.
+    const QString l72 = em(11) + QStringLiteral("move \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\" to X");
+    ASSERT_EQ(l72.size(), 72);
+    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF + QStringLiteral("resto sem fim de linha"), false), l72 + kCRLF);
+    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("sem fim de linha"), false), QString());
+    EXPECT_EQ(QuebrarLinhasCobol(kCRLF + kCRLF, true), linhas({QString(), QString()}));
+
+    // In the STRING form the limit is 71, so the same line becomes a STRING
+    // statement whose one literal already fits.
+    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF, true),
+              linhas({em(11) + QStringLiteral("move spaces to X"),
+                      em(11) + QStringLiteral("string \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\""),
+                      em(14) + QStringLiteral(" delimited by size into X")}));
+
+    // A long line without a literal is left long, "move" and all.
+    const QString semAspas = em(11) + QStringLiteral("MOVE WS-CAMPO-COM-NOME-BEM-COMPRIDO-DEMAIS TO WS-OUTRO-CAMPO-MUITO-LONGO");
+    ASSERT_GT(semAspas.size(), 72);
+    EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, true), semAspas + kCRLF);
+    EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, false), semAspas + kCRLF);
+
+    // Upper-case MOVE and TO are found; several cuts for a long literal.
+    const QString longa = em(11) + QStringLiteral("MOVE \"") + QString(150, QLatin1Char('x')) + QStringLiteral("\" TO WS-V");
+    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, false),
+              linhas({em(11) + QStringLiteral("MOVE \"") + QString(55, QLatin1Char('x')),
+                      QStringLiteral("      -    \"") + QString(60, QLatin1Char('x')),
+                      QStringLiteral("      -    \"") + QString(35, QLatin1Char('x')) + QStringLiteral("\""),
+                      em(14) + QStringLiteral(" TO WS-V")}));
+    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, true),
+              linhas({em(11) + QStringLiteral("move spaces TO WS-V"),
+                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('x')) + QStringLiteral("\""),
+                      em(11) + QStringLiteral("\"") + QString(59, QLatin1Char('x')) + QStringLiteral("\""),
+                      em(11) + QStringLiteral("\"") + QString(39, QLatin1Char('x')) + QStringLiteral("\""),
+                      em(14) + QStringLiteral(" delimited by size into WS-V")}));
+
+    // A cut that leaves only the closing quote: an empty literal is not
+    // written in the STRING form; the continuation line keeps it, because
+    // without it the literal would stay open.
+    const QString ate72 = em(11) + QStringLiteral("move \"") + QString(55, QLatin1Char('b')) + QStringLiteral("\" to Y");
+    EXPECT_EQ(QuebrarLinhasCobol(ate72 + kCRLF, false),
+              linhas({ate72.left(72), QStringLiteral("      -    \"\""), em(14) + QStringLiteral(" to Y")}));
+    const QString ate71 = em(11) + QStringLiteral("move \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\" to Y");
+    EXPECT_EQ(QuebrarLinhasCobol(ate71 + kCRLF, true),
+              linhas({em(11) + QStringLiteral("move spaces to Y"),
+                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\""),
+                      em(14) + QStringLiteral(" delimited by size into Y")}));
+
+    // A literal that ends the line has no tail; lines of a multi-line text
+    // are treated one by one.
+    const QString semCauda = em(11) + QStringLiteral("display \"") + QString(70, QLatin1Char('d')) + QStringLiteral("\"");
+    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("curta") + kCRLF + semCauda + kCRLF + QStringLiteral("fim") + kCRLF, false),
+              linhas({QStringLiteral("curta"), semCauda.left(72),
+                      QStringLiteral("      -    \"") + QString(18, QLatin1Char('d')) + QStringLiteral("\""),
+                      QStringLiteral("fim")}));
+}
+
+TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
+{
+    LayoutDocumento doc;
+    doc.MargemSuperior = QStringLiteral("\"15\"");
+    doc.MargemEsquerda = QStringLiteral("WS-MARG");
+    doc.MargemInferior = QStringLiteral("\"7.6\"");
+    Banda b;
+    const auto item = [](uint8_t tipo, const QString &texto, int esquerda, int largura) {
+        Item it;
+        it.Tipo = tipo;
+        it.Texto = texto;
+        it.Esquerda = esquerda;
+        it.Largura = largura;
+        return it;
+    };
+    b.Itens = {item(TipoTexto, QStringLiteral("Nome"), 0, 100),
+               item(TipoComando, QStringLiteral("WS-NOME"), 100, 100),
+               item(TipoEAN13, QStringLiteral("\"789\""), 200, 100),
+               item(TipoCode128B, QStringLiteral("WS-COD"), 300, 100),
+               item(TipoPDF417, QStringLiteral("\"PDF\""), 400, 100),
+               item(TipoFigura, QStringLiteral("\"logo.bmp\""), 500, 100),
+               item(TipoFigura, QString(), 600, 100),
+               item(TipoBarraGrafico, QStringLiteral("\"35\""), 700, 100),
+               item(TipoBarraGrafico, QStringLiteral("WS-BARRA"), 800, 5),
+               item(TipoTexto, QStringLiteral("estreito"), 805, 4),
+               item(99, QStringLiteral("tipo desconhecido"), 809, 50)};
+    b.Itens[7].CorTexto = 3;
+    b.Itens[7].CorFundo = 5;
+    doc.Bandas.append(b);
+
+    LinguagemDef l;
+    l.ComandoRH = QStringLiteral("MOVE '§rh' TO X §c");
+    l.ComandosSimples = QStringLiteral("S");
+    l.ComandoF = QStringLiteral("F");
+    l.ComandoL = QStringLiteral("L");
+    // "§c" is replaced last: "§cl", "§cf" and "§ci" are not cut short by it.
+    l.ComandoT = QStringLiteral("§c|§cl|§cf|§ei|§ci|§ai|bare=§t|q='§t'|d=\"§t\"");
+    EXPECT_EQ(GerarCopiarComo(doc, l),
+              linhas({QStringLiteral("MOVE '15' TO X MS"), QStringLiteral("MOVE WS-MARG TO X ME"),
+                      QStringLiteral("MOVE '7.6' TO X MI"), QStringLiteral("S"), QString(),
+                      QStringLiteral("F"),
+                      QStringLiteral("T |00|99|00002|00096|0000100010|bare=Nome|q='Nome'|d=\"Nome\""),
+                      QStringLiteral("T |00|99|00102|00096|0000100010|bare=§t|q=WS-NOME|d=WS-NOME"),
+                      QStringLiteral("Ba|00|99|00202|00096|0000100010|bare=789|q='789'|d=\"789\""),
+                      QStringLiteral("Bi|00|99|00302|00096|0000100010|bare=§t|q=WS-COD|d=WS-COD"),
+                      QStringLiteral("B0|00|99|00402|00096|0000100010|bare=PDF|q='PDF'|d=\"PDF\""),
+                      QStringLiteral("G |00|99|00502|00096|0000100010|bare=logo.bmp|q='logo.bmp'|d=\"logo.bmp\""),
+                      QStringLiteral("LG|03|05|00700|00100|0000100010|bare=35|q='35'|d=\"35\""),
+                      QStringLiteral("LG|00|99|00800|00005|0000100010|bare=§t|q=WS-BARRA|d=WS-BARRA"),
+                      QStringLiteral("T |00|99|00811|00046|0000100010|bare=tipo desconhecido|q='tipo desconhecido'"
+                                     "|d=\"tipo desconhecido\""),
+                      QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S"), QString()}));
+
+    // Templates without placeholders are copied as they stand, one per line.
+    LinguagemDef fixo;
+    for (QString *m : {&fixo.ComandoF, &fixo.ComandoL, &fixo.ComandoT, &fixo.ComandoRH, &fixo.ComandosSimples})
+        *m = QStringLiteral("X");
+    SessaoEditor novo;
+    novo.Documento.banda(1).Itens[0].CorFundo = 7;
+    EXPECT_EQ(GerarCopiarComo(novo.Documento, fixo),
+              linhas({QStringLiteral("X"), QString(), QStringLiteral("X"), QStringLiteral("X"), QStringLiteral("X"),
+                      QStringLiteral("X"), QStringLiteral("X"), QString()}));
+
+    // Line feeds typed in a plain editor come out as CR LF.
+    fixo.ComandosSimples = QStringLiteral("a\nb");
+    fixo.ComentarioInicial = QStringLiteral("c\r\nd\n");
+    EXPECT_TRUE(GerarCopiarComo(novo.Documento, fixo)
+                    .startsWith(linhas({QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("a"), QStringLiteral("b")})));
+}
+
+TEST(CopiarComo, LayoutCompletoNumaLinguagemSemCobol)
+{
+    LayoutDocumento doc;
+    doc.NomeImpressora = QStringLiteral("HP");
+    doc.MargemSuperior = QStringLiteral("\"15\"");
+    doc.MargemEsquerda = QStringLiteral("WS-MARG");
+    doc.TipoEmail = 4;
+    doc.QualidadeJPG = 80;
+    doc.TextoEmail = QStringLiteral("Oi{ENTER}Tchau");
+    doc.Paisagem = true;
+    doc.EnviarEmail = true;
+    doc.BandaCabecalho = 1;
+    doc.BandaRodape = 2;
+    doc.QuebraPaginaFinal = true;
+    doc.QuebraPaginaAdd(2);
+
+    Banda b1;
+    b1.Comentario = QStringLiteral("A") + QChar(0xFF) + QStringLiteral("B");
+    Item total;
+    total.Texto = QStringLiteral("Total");
+    total.Largura = 200;
+    total.CorFundo = 7;
+    b1.Itens.append(total);
+    doc.Bandas.append(b1);
+
+    Banda b2;
+    b2.Deslocamento = -12;
+    b2.Comentario = QStringLiteral("só antes");
+    Item figura;
+    figura.Tipo = TipoFigura;
+    figura.Largura = 50;
+    Item ean = figura;
+    ean.Tipo = TipoEAN13;
+    ean.Texto = QStringLiteral("\"789\"");
+    ean.Esquerda = 50;
+    ean.Largura = 100;
+    Item comando = ean;
+    comando.Tipo = TipoComando;
+    comando.Texto = QStringLiteral("WS-NOME");
+    comando.Esquerda = 150;
+    comando.Largura = 80;
+    Item barra = comando;
+    barra.Tipo = TipoBarraGrafico;
+    barra.Texto = QStringLiteral("WS-BAR");
+    barra.Esquerda = 230;
+    barra.Largura = 40;
+    barra.CorTexto = 3;
+    barra.CorFundo = 5;
+    Item estreito = comando;
+    estreito.Tipo = TipoTexto;
+    estreito.Texto = QStringLiteral("x");
+    estreito.Esquerda = 270;
+    estreito.Largura = 4;
+    estreito.Fonte.Sublinhado = true;
+    b2.Itens = {figura, ean, comando, barra, estreito};
+    doc.Bandas.append(b2);
+
+    Banda b3;
+    b3.Altura = -30;
+    b3.Comentario = QChar(0xFF) + QStringLiteral("só depois");
+    doc.Bandas.append(b3);
+
+    LinguagemDef l;
+    l.ComentarioInicial = QStringLiteral("// início");
+    l.ComandosSimples = QStringLiteral("? \"§c\"");
+    l.ComandoRH = QStringLiteral("? \"§c\", '§rh'");
+    l.ComandoF = QStringLiteral("F(§c|§t|§n§i§s§r|§f)");
+    l.ComandoL = QStringLiteral("L(§c|§cl|§cf|§ei|§ci|§ai|§el)");
+    l.ComandoT = QStringLiteral("T(§c|§cl|§cf|§ei|§ci|§ai|'§t')");
+    l.DefVariaveis = QStringLiteral("never inserted");
+    l.ChamadaViewer = QStringLiteral("never inserted");
+    EXPECT_EQ(GerarCopiarComo(doc, l),
+              linhas({QStringLiteral("// início"),
+                      QStringLiteral("? \"I HP\""),
+                      QStringLiteral("? \"MS\", '15'"),
+                      QStringLiteral("? \"ME\", WS-MARG"),
+                      QStringLiteral("? \"EP 80\""),
+                      QStringLiteral("? \"ET Oi{ENTER}Tchau\""),
+                      QStringLiteral("? \"IP\""),
+                      QStringLiteral("? \"E \""),
+                      QString(),
+                      QStringLiteral("A"),
+                      QStringLiteral("F(F |10|0000|Arial)"),
+                      QStringLiteral("L(L |00|07|00000|00200|0000000000|01)"),
+                      QStringLiteral("T(T |00|99|00002|00196|0000100010|'Total')"),
+                      QStringLiteral("? \"RH\", '00018'"),
+                      QStringLiteral("? \"FC\""),
+                      QStringLiteral("B"),
+                      QString(),
+                      QStringLiteral("só antes"),
+                      QStringLiteral("? \"QP\""),
+                      QStringLiteral("T(Ba|00|99|00052|00096|0000100010|'789')"),
+                      QStringLiteral("T(T |00|99|00152|00076|0000100010|WS-NOME)"),
+                      QStringLiteral("T(LG|03|05|00230|00040|0000100010|WS-BAR)"),
+                      QStringLiteral("F(F |10|0010|Arial)"),
+                      QStringLiteral("? \"RT\", '-0012'"),
+                      QStringLiteral("? \"RH\", '00018'"),
+                      QStringLiteral("? \"RO\""),
+                      QString(),
+                      QStringLiteral("? \"RH\", '00000'"),
+                      QStringLiteral("? \"QL\""),
+                      QStringLiteral("só depois"),
+                      QString(),
+                      QStringLiteral("? \"QP\"")}));
+
+    // The opening comment of a COBOL language keeps its last line too.
+    LinguagemDef cobol;
+    cobol.EhCobol = true;
+    cobol.ComentarioInicial = QStringLiteral("      * um\r\n      * dois");
+    EXPECT_TRUE(GerarCopiarComo(doc, cobol).startsWith(linhas({QStringLiteral("      * um"), QStringLiteral("      * dois")})));
+}
+
+namespace {
+
+class CopybookTeste : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dir.isValid());
+        anterior = qgetenv(VariavelPastaLinguagens);
+        qputenv(VariavelPastaLinguagens, dir.path().toLocal8Bit());
+        ling.ComentarioInicial = QStringLiteral("      * Relatório");
+        ling.ComandosSimples = QStringLiteral("           move \"§c\" to WS-LINHA");
+        ling.ComandoRH = QStringLiteral("           move \"§c §rh\" to WS-LINHA");
+        ling.ComandoF = ling.ComandosSimples;
+        ling.ComandoT = QStringLiteral("           move \"§c§cl§cf§ei§ci§ai§t\" to WS-LINHA");
+        ASSERT_TRUE(SalvarLin(QStringLiteral("Cobol Teste"), ling, nullptr));
+        ling.EhCobol = true;
+    }
+    void TearDown() override
+    {
+        if (anterior.isEmpty())
+            qunsetenv(VariavelPastaLinguagens);
+        else
+            qputenv(VariavelPastaLinguagens, anterior);
+    }
+    QString caminho(const QString &nome) const { return dir.filePath(nome); }
+
+    teste::ConfigTemporaria config;
+    QTemporaryDir dir;
+    QByteArray anterior;
+    LinguagemDef ling;
+};
+
+}  // namespace
+
+TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
+{
+    SessaoEditor s;
+    s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Preço à vista, um texto longo o bastante para a quebra");
+    teste::InterfaceRoteirizada ui;
+    const QString cpy = caminho(QStringLiteral("saida.cpy"));
+    QString codigo;
+    ASSERT_EQ(CopiarComo(s.Documento, ling, cpy, &ui, &codigo), ResultadoCopiarComo::Gravado);
+    EXPECT_TRUE(ui.perguntas.isEmpty());
+    EXPECT_EQ(codigo, GerarCopiarComo(s.Documento, ling));
+    const QByteArray bytes = teste::LerArquivo(cpy);
+    EXPECT_EQ(bytes, Para1252(codigo));
+    EXPECT_TRUE(bytes.contains("Pre\xE7o \xE0 vista"));
+    EXPECT_TRUE(bytes.endsWith("\r\n"));  // the file ends with the last line end, nothing more
+    for (const QByteArray &linha : bytes.split('\n'))
+        EXPECT_LE(linha.size(), 73) << linha.toStdString();  // 72 columns and the CR
+
+    // An existing file: the question, and "No" leaves it alone.
+    teste::GravarArquivoTeste(cpy, "antigo");
+    ui.respostas = {Resposta::Nao};
+    EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Recusado);
+    ASSERT_EQ(ui.perguntas.size(), 1);
+    EXPECT_EQ(ui.perguntas[0].texto, cpy + QStringLiteral("\n\nO arquivo acima já existe!\n\nDeseja substituí-lo?"));
+    EXPECT_EQ(ui.perguntas[0].titulo, QStringLiteral("Salvar"));
+    EXPECT_EQ(ui.perguntas[0].icone, Icone::Pergunta);
+    EXPECT_EQ(teste::LerArquivo(cpy), QByteArray("antigo"));
+    ui.respostas = {Resposta::Sim};
+    EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Gravado);
+    EXPECT_EQ(teste::LerArquivo(cpy), Para1252(codigo));
+
+    // No file: only the text, for the clipboard.
+    QString texto;
+    EXPECT_EQ(CopiarComo(s.Documento, ling, QString(), &ui, &texto), ResultadoCopiarComo::Texto);
+    EXPECT_EQ(texto, codigo);
+    EXPECT_EQ(ui.perguntas.size(), 2);
+
+    EXPECT_EQ(CaminhoCopybook(QStringLiteral("/x/rel.lmt")), QStringLiteral("/x/rel.cpy"));
+    EXPECT_EQ(CaminhoCopybook(QStringLiteral("/x/REL.LMT")), QStringLiteral("/x/REL.cpy"));
+}
+
+TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaSalvaOLayout)
+{
+    teste::InterfaceRoteirizada ui;
+    SessaoEditor s;
+    s.Ui = &ui;
+    s.Documento.banda(1).Itens[0].Texto = QString(60, QLatin1Char('z'));
+    const QString lmt = caminho(QStringLiteral("rel.lmt"));
+    const QString cpy = caminho(QStringLiteral("rel.cpy"));
+
+    // No language chosen: only the layout.
+    s.NomeArquivo = lmt;
+    ASSERT_TRUE(s.SalvarLMT(false));
+    EXPECT_TRUE(QFile::exists(lmt));
+    EXPECT_FALSE(QFile::exists(cpy));
+
+    // The setting is read at the moment of saving; the STRING choice comes
+    // from the session's settings.
+    Configuracoes c;
+    c.CPY = QStringLiteral("Cobol Teste");
+    c.GravarCPY();
+    s.Config.NoCobolUsarString = false;
+    ASSERT_TRUE(s.SalvarLMT(false));
+    LinguagemDef esperado = ling;
+    esperado.CobolString = false;
+    EXPECT_EQ(teste::LerArquivo(cpy), Para1252(GerarCopiarComo(s.Documento, esperado)));
+    EXPECT_TRUE(teste::LerArquivo(cpy).contains("      -    \""));
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+
+    // Saving again asks about the copybook; "No" keeps it and still saves the layout.
+    s.Documento.banda(1).Altura = 40;
+    ui.respostas = {Resposta::Nao};
+    const QByteArray cpyAntes = teste::LerArquivo(cpy);
+    ASSERT_TRUE(s.SalvarLMT(false));
+    EXPECT_EQ(ui.perguntas.size(), 1);
+    EXPECT_EQ(teste::LerArquivo(cpy), cpyAntes);
+    EXPECT_EQ(teste::LerArquivo(lmt), GravarLMT(s.Documento));
+
+    // A copybook that cannot be written is reported; the layout is saved all the same.
+    const QString lmt2 = caminho(QStringLiteral("dois.lmt"));
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("dois.cpy")));
+    s.NomeArquivo = lmt2;
+    ui.respostas = {Resposta::Sim};
+    ASSERT_TRUE(s.SalvarLMT(false));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")
+                                                  + caminho(QStringLiteral("dois.cpy"))));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
+    EXPECT_EQ(teste::LerArquivo(lmt2), GravarLMT(s.Documento));
+
+    // A language that is gone: its message, and the layout is saved.
+    c.CPY = QStringLiteral("Sumiu");
+    c.GravarCPY();
+    ui.mensagens.clear();
+    s.NomeArquivo = caminho(QStringLiteral("tres.lmt"));
+    ASSERT_TRUE(s.SalvarLMT(false));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto,
+              QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Sumiu.lin")) + QStringLiteral("' não foi encontrado!"));
+    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("tres.lmt"))));
+    EXPECT_FALSE(QFile::exists(caminho(QStringLiteral("tres.cpy"))));
+}
+
+namespace {
+
+struct Execucao {
+    int codigo;
+    QByteArray saida;
+    QByteArray erros;
+};
+
+Execucao Cli(const QStringList &args, const QString &pastaLinguagens, const QString &config)
+{
+    QProcess p;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QString::fromLatin1(VariavelPastaLinguagens), pastaLinguagens);
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), config);
+    p.setProcessEnvironment(env);
+    p.start(QStringLiteral(LUMETA_CLI), args);
+    p.waitForFinished(60000);
+    return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
+}
+
+}  // namespace
+
+TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
+{
+    SessaoEditor s;
+    s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Ação com um texto que passa bem da coluna setenta e dois");
+    const QString lmt = caminho(QStringLiteral("rel.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(lmt, s.Documento).ok);
+    const auto rodar = [&](const QStringList &a) { return Cli(a, dir.path(), config.Config()); };
+
+    LinguagemDef comString = ling, semString = ling;
+    semString.CobolString = false;
+    Execucao r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt, QStringLiteral("--string")});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, comString)));
+    EXPECT_TRUE(r.saida.contains("A\xE7\xE3o"));
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("--continuacao"), QStringLiteral("Cobol Teste"), lmt});
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, semString)));
+
+    // Without a flag the editor's setting decides (default: STRING).
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt});
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, comString)));
+    Configuracoes c;
+    c.NoCobolUsarString = false;
+    c.GravarNoCobolUsarString();
+    const QString saida = caminho(QStringLiteral("saida.cpy"));
+    teste::GravarArquivoTeste(saida, "velho");
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt, saida});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_TRUE(r.saida.isEmpty());
+    EXPECT_EQ(teste::LerArquivo(saida), Para1252(GerarCopiarComo(s.Documento, semString)));
+
+    // A path to a .lin file works as well; its name decides the COBOL step.
+    QFile::copy(caminho(QStringLiteral("Cobol Teste.lin")), caminho(QStringLiteral("outra.lin")));
+    r = rodar({QStringLiteral("copiar-como"), caminho(QStringLiteral("outra.lin")), lmt});
+    LinguagemDef naoCobol = ling;
+    naoCobol.EhCobol = false;
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, naoCobol)));
+
+    // Failures: the editor's messages and the exit codes.
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Nenhuma"), lmt});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_EQ(QString::fromLocal8Bit(r.erros).trimmed(),
+              QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
+    teste::GravarArquivoTeste(caminho(QStringLiteral("ruim.lin")), QByteArray("\2\0\0\0", 4));
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("ruim"), lmt});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).contains(QStringLiteral("' é inválido!")));
+    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), caminho(QStringLiteral("nada.lmt"))});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
+    EXPECT_TRUE(r.saida.isEmpty());
+    for (const QStringList &errado : {QStringList{QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste")},
+                                      QStringList{QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt,
+                                                  QStringLiteral("--string"), QStringLiteral("--continuacao")},
+                                      QStringList{QStringLiteral("copiar-como"), QStringLiteral("a"), QStringLiteral("b"),
+                                                  QStringLiteral("c"), QStringLiteral("d")},
+                                      QStringList{QStringLiteral("linguagem"), QStringLiteral("nova")},
+                                      QStringList{QStringLiteral("linguagem"), QStringLiteral("apagar"), QStringLiteral("x")}})
+        EXPECT_EQ(rodar(errado).codigo, 2) << errado.join(u' ').toStdString();
+
+    // A new language: the name cleaned as the dialog does, the defaults written.
+    r = rodar({QStringLiteral("linguagem"), QStringLiteral("nova"), QStringLiteral("meu:cobol")});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("meu_cobol.lin"))), CodificarLin(LinguagemPadrao()));
+    r = rodar({QStringLiteral("linguagem"), QStringLiteral("nova"), QStringLiteral("meu:cobol")});
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_EQ(QString::fromLocal8Bit(r.erros).trimmed(), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
+    r = rodar({QStringLiteral("linguagem"), QStringLiteral("lista")});
+    EXPECT_EQ(r.saida, QByteArray("Cobol Teste\nmeu_cobol\noutra\nruim\n"));
+}

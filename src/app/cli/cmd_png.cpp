@@ -1,0 +1,48 @@
+// A picture of a layout's canvas, as the editor shows it after opening the
+// file: full size, automatic heights computed, no selection marks.
+
+#include "app/cli/Comandos.h"
+#include "canvas/Pintor.h"
+#include "document/Sessao.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace lumeta::cli {
+
+namespace {
+
+const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
+    "Grava em SAIDA.png o desenho do layout na página, como o editor o exibe\n"
+    "(tamanho total, alturas automáticas calculadas, sem as marcas de seleção).",
+    [](const QStringList &args, Saidas &io) {
+        if (args.size() != 2) {
+            io.err(QStringLiteral("Uso: lumetaedit-cli png ARQUIVO.lmt SAIDA.png"));
+            return 2;
+        }
+        SessaoEditor sessao;
+        if (!CarregarLayout(args[0], sessao.Documento, io))
+            return 1;
+        // The editor opens a file with band 1 selected and every band laid out.
+        sessao.BandaSelecionada = 1;
+        sessao.ItemSelecionado = 0;
+        for (int b = 1; b <= sessao.Documento.NumBandas(); ++b)
+            sessao.Documento.ReposicionarItem(b);
+        sessao.Documento.ReposicionarBanda();
+
+        CanvasPagina canvas;
+        const QScreen *tela = QGuiApplication::primaryScreen();
+        canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
+        RecursosCanvas recursos;
+        const ResultadoRepintura r = ExibirBanda(sessao, canvas, recursos);
+        if (r.memoriaInsuficiente)
+            io.err(MensagemMemoriaInsuficiente);
+        if (canvas.Imagem.isNull() || !canvas.Imagem.save(args[1], "PNG")) {
+            io.err(QStringLiteral("Não foi possível gravar a figura '") + args[1] + QStringLiteral("'!"));
+            return 1;
+        }
+        return 0;
+    });
+
+}  // namespace
+}  // namespace lumeta::cli

@@ -1,0 +1,62 @@
+#pragma once
+// The pictures the canvas shows: picture files, the error and placeholder
+// pictures, and barcode symbols, each kept between repaints.
+
+#include <QDateTime>
+#include <QHash>
+#include <QImage>
+#include <QString>
+
+namespace lumeta {
+
+// `imgErro`: shown for a picture that cannot be loaded and for an unknown
+// barcode type.
+const QImage &ImagemErro();
+// `imgFigura`: shown for a picture item without a file name.
+const QImage &ImagemFigura();
+
+// Picture files by path. A repaint starts a new pass; the first use of a path
+// in a pass checks the file again, so a picture changed on disk shows at the
+// next repaint while one repaint never reads the same file twice.
+class CacheFiguras {
+public:
+    void NovaPassagem() { ++m_passagem; }
+    // The picture of an item whose text (quotes removed, trimmed) is `nome`:
+    // the placeholder for an empty name, the error picture when it fails.
+    const QImage &Figura(const QString &nome);
+
+private:
+    struct Entrada {
+        QImage imagem;
+        bool ok = false;
+        QDateTime modificado;
+        qint64 tamanho = -1;
+        quint64 passagem = 0;
+    };
+    QHash<QString, Entrada> m_entradas;
+    quint64 m_passagem = 1;
+};
+
+// Barcode symbols by everything that shapes them.
+class CacheSimbolos {
+public:
+    // The symbol of an encoder, or the error picture for an unknown type.
+    const QImage &Simbolo(int tipo, const QString &valor, int alturaBarra, bool mostrarTexto, int angulo);
+
+private:
+    struct Chave {
+        int tipo;
+        QString valor;
+        int alturaBarra;
+        bool mostrarTexto;
+        int angulo;
+        bool operator==(const Chave &) const = default;
+    };
+    friend size_t qHash(const Chave &c, size_t semente) noexcept
+    {
+        return qHashMulti(semente, c.tipo, c.valor, c.alturaBarra, c.mostrarTexto, c.angulo);
+    }
+    QHash<Chave, QImage> m_simbolos;
+};
+
+}  // namespace lumeta

@@ -1,0 +1,128 @@
+#include "canvas/Geometria.h"
+
+#include "canvas/Cores.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace lumeta {
+
+MarcadorPagina MarcadorDaPagina(bool paisagem)
+{
+    if (paisagem)
+        return {AlturaPagina + 8, LarguraPagina + 16, CorVerdeClaro, QStringLiteral("A4 (Paisagem)")};
+    return {LarguraPagina + 8, AlturaPagina + 16, CorCianoClaro, QStringLiteral("A4 (Retrato)")};
+}
+
+bool CanvasPagina::PodeManter(QSize tamanho) const
+{
+    if (tamanho.width() <= 0 || tamanho.height() <= 0)
+        return false;
+    const qint64 bytes = qint64(tamanho.width()) * qint64(tamanho.height()) * 4;
+    if (bytes > LimiteMemoria)
+        return false;
+    if (Imagem.size() == tamanho)
+        return true;
+    QImage teste(tamanho, QImage::Format_RGB32);
+    if (teste.isNull())
+        return false;
+    teste.setPixel(0, 0, 0xFFFFFFFF);
+    return true;
+}
+
+void CanvasPagina::TamanhoInicial(int larguraTela)
+{
+    TamanhoTotal = true;
+    Tamanho = QSize(std::max(larguraTela, LadoCanvasInicial), LadoCanvasInicial);
+    if (!PodeManter(Tamanho))
+        Tamanho = QSize(LadoCanvasInicial, LadoCanvasInicial);
+    m_verificado = QSize();
+}
+
+bool CanvasPagina::CrescerLargura(const LayoutDocumento &doc)
+{
+    if (!TamanhoTotal)
+        return false;
+    int w = 0;
+    for (const Banda &b : doc.Bandas) {
+        const int direita = b.Itens.isEmpty() ? 0 : b.Itens.last().Esquerda + b.Itens.last().Largura;
+        if (direita + 64 > w)
+            w = direita + 128;
+    }
+    if (Tamanho.width() < w) {
+        Tamanho.setWidth(w);
+        return true;
+    }
+    return false;
+}
+
+bool CanvasPagina::CrescerAltura(int fundoBanda)
+{
+    if (!TamanhoTotal || fundoBanda <= Tamanho.height() - 64)
+        return false;
+    Tamanho.setHeight(fundoBanda + 384);
+    return true;
+}
+
+bool CanvasPagina::VerificarMemoria()
+{
+    if (Tamanho == m_verificado)
+        return true;
+    if (PodeManter(Tamanho)) {
+        m_verificado = Tamanho;
+        return true;
+    }
+    TamanhoTotal = false;
+    Tamanho = QSize(LadoCanvasReduzido, LadoCanvasReduzido);
+    m_verificado = QSize();
+    return false;
+}
+
+bool CanvasPagina::GarantirImagem()
+{
+    if (Imagem.size() == Tamanho)
+        return true;
+    Imagem = QImage();
+    if (PodeManter(Tamanho))
+        Imagem = QImage(Tamanho, QImage::Format_RGB32);
+    if (!Imagem.isNull()) {
+        m_verificado = Tamanho;
+        return true;
+    }
+    TamanhoTotal = false;
+    Tamanho = QSize(LadoCanvasReduzido, LadoCanvasReduzido);
+    Imagem = QImage(Tamanho, QImage::Format_RGB32);
+    m_verificado = Imagem.isNull() ? QSize() : Tamanho;
+    return false;
+}
+
+QPoint RolarParaSelecao(const LayoutDocumento &doc, int banda, int item, QPoint atual, QSize viewport,
+                        QPoint maximo)
+{
+    if (item < 1 || banda < 1 || banda > doc.NumBandas() || item > doc.banda(banda).NumItens())
+        return atual;
+    const Banda &b = doc.banda(banda);
+    const Item &it = b.Itens[item - 1];
+    int v = atual.y();
+    const int fundo = b.Topo + std::abs(b.Altura);
+    if (fundo > atual.y() + viewport.height() - 8)
+        v = fundo - viewport.height() + 8;
+    else if (b.Topo < atual.y() + 8)
+        v = b.Topo - 8;
+    int h = atual.x();
+    const int direita = it.Esquerda + it.Largura;
+    if (direita > atual.x() + viewport.width() - 16)
+        h = direita - viewport.width() + 16;
+    else if (it.Esquerda < atual.x())
+        h = it.Esquerda;
+    v = std::clamp(v, 0, std::max(0, maximo.y()));
+    h = std::clamp(h, 0, std::max(0, maximo.x()));
+    return QPoint(h, v);
+}
+
+QPoint MaximoRolagem(QSize canvas, QSize viewport)
+{
+    return QPoint(std::max(0, canvas.width() - viewport.width()), std::max(0, canvas.height() - viewport.height()));
+}
+
+}  // namespace lumeta

@@ -1,0 +1,402 @@
+#include "canvas/Pintor.h"
+
+#include "canvas/Atributos.h"
+#include "canvas/Cores.h"
+#include "output/Macros.h"
+#include "output/TextoComandos.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <vector>
+
+namespace lumeta {
+
+QColor ResolverCor(int indice, int fixa)
+{
+    return CorQt(NovaCor(indice, fixa));
+}
+
+namespace {
+
+const FonteItem &FonteCanvas()
+{
+    static const FonteItem f{QStringLiteral("Arial"), 8, false, false, false, false};
+    return f;
+}
+
+int32_t Limitar32(qint64 v)
+{
+    return int32_t(std::clamp<qint64>(v, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()));
+}
+
+int Arredondar(double v)
+{
+    return int(std::nearbyint(v));
+}
+
+// A filled box between two corners, both included, in either order.
+void Caixa(QPainter &p, int x1, int y1, int x2, int y2, const QColor &cor)
+{
+    if (x1 > x2)
+        std::swap(x1, x2);
+    if (y1 > y2)
+        std::swap(y1, y2);
+    p.fillRect(QRect(x1, y1, x2 - x1 + 1, y2 - y1 + 1), cor);
+}
+
+// The outline of the box between two corners, both included.
+void Contorno(QPainter &p, int x1, int y1, int x2, int y2, const QColor &cor)
+{
+    if (x1 > x2)
+        std::swap(x1, x2);
+    if (y1 > y2)
+        std::swap(y1, y2);
+    Caixa(p, x1, y1, x2, y1, cor);
+    Caixa(p, x1, y2, x2, y2, cor);
+    Caixa(p, x1, y1, x1, y2, cor);
+    Caixa(p, x2, y1, x2, y2, cor);
+}
+
+void PintarMarcador(QPainter &p, bool paisagem, RecursosCanvas &r)
+{
+    const MarcadorPagina m = MarcadorDaPagina(paisagem);
+    const QColor cor = ResolverCor(m.cor);
+    Caixa(p, m.x, 0, m.x, m.y, cor);
+    Caixa(p, 0, m.y, m.x, m.y, cor);
+    VarianteFonte &fonte = r.Fontes.Variante(FonteCanvas(), 0, false);
+    p.setFont(fonte.fonte);
+    p.setPen(ResolverCor(CorVermelhoClaro));
+    p.drawText(QPoint(m.x + 2, fonte.ascendente), m.rotulo);
+}
+
+void PintarMarcadoresBanda(QPainter &p, const Banda &banda, bool quebra, int topo, int fundo)
+{
+    const bool comentario = !banda.Comentario.isEmpty();
+    if (quebra) {
+        if (comentario)
+            Caixa(p, 1, topo, 5, fundo - 1, ResolverCor(CorCinzaClaro));
+        const QColor azul(0, 0, 255);
+        Caixa(p, 3, topo, 6, topo, azul);
+        Caixa(p, 3, topo, 3, fundo - 1, azul);
+        for (int i = 1; i <= 2; ++i)
+            Caixa(p, 3 - i, fundo - i - 1, 3 + i, fundo - i - 1, azul);
+    } else if (comentario) {
+        Caixa(p, 2, topo, 4, fundo - 1, QColor(210, 210, 210));
+    }
+}
+
+// Where a picture of `tamanho` goes in a cell (right and bottom exclusive) by
+// the format bits: left/top, centred (1, 4) or against the far edge (2, 8).
+// The centring counts both edges of the cell.
+QPoint Posicionar(QSize tamanho, const QRect &celula, int32_t bits)
+{
+    const int esquerda = celula.x(), direita = celula.x() + celula.width();
+    const int topo = celula.y(), fundo = celula.y() + celula.height();
+    int x = esquerda, y = topo;
+    if (bits & BitCentralizar)
+        x = esquerda + Arredondar((direita - esquerda + 1 - tamanho.width()) / 2.0);
+    else if (bits & BitDireita)
+        x = direita - tamanho.width();
+    if (bits & BitCentroVertical)
+        y = topo + Arredondar((fundo - topo + 1 - tamanho.height()) / 2.0);
+    else if (bits & BitBase)
+        y = fundo - tamanho.height();
+    return QPoint(x, y);
+}
+
+// The value a barcode or graph bar shows: a quoted literal without its
+// quotes, or the sample for a field or command.
+QString ValorExibido(const QString &texto, const char *exemplo)
+{
+    if (texto.startsWith(QLatin1Char('"'))) {
+        QString v = texto;
+        v.remove(QLatin1Char('"'));
+        return v;
+    }
+    return QString::fromLatin1(exemplo);
+}
+
+struct Contexto {
+    QPainter &p;
+    RecursosCanvas &r;
+    QRect area;
+};
+
+void PintarBordas(QPainter &p, const Item &it, const QRect &celula, const QColor &cor)
+{
+    const int32_t bits = Alinhamento(it.Linhas);
+    const int w = it.Espessura;
+    if (w <= 0)
+        return;
+    const int esquerda = celula.x(), topo = celula.y();
+    const int largura = celula.width(), altura = celula.height();
+    // Middle lines count both edges of the cell.
+    const int meioY = topo + (altura + 1 - w) / 2;
+    const int meioX = esquerda + (largura + 1 - w) / 2;
+    const QRect linhas[] = {
+        (bits & LinhaSuperior) ? QRect(esquerda, topo, largura, w) : QRect(),
+        (bits & LinhaInferior) ? QRect(esquerda, topo + altura - w, largura, w) : QRect(),
+        (bits & LinhaEsquerda) ? QRect(esquerda, topo, w, altura) : QRect(),
+        (bits & LinhaDireita) ? QRect(esquerda + largura - w, topo, w, altura) : QRect(),
+        (bits & LinhaMeioHorizontal) ? QRect(esquerda, meioY, largura, w) : QRect(),
+        (bits & LinhaMeioVertical) ? QRect(meioX, topo, w, altura) : QRect(),
+    };
+    for (const QRect &l : linhas) {
+        const QRect corte = l & celula;
+        if (!corte.isEmpty())
+            p.fillRect(corte, cor);
+    }
+}
+
+void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
+{
+    QString nome = texto;
+    nome.remove(QLatin1Char('"'));
+    const QImage &img = c.r.Figuras.Figura(nome.trimmed());
+    const QPoint pos = Posicionar(img.size(), celula, Alinhamento(it.Atributos));
+    if (QRect(pos, img.size()).intersects(c.area))
+        c.p.drawImage(pos, img);
+}
+
+void PintarCodigoBarras(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
+{
+    const QString valor = ValorExibido(texto, "0123456789");
+    const int angulo = AnguloAtributos(it.Atributos);
+    const bool deitado = angulo == 90 || angulo == 270;
+    const bool mostrarTexto = MostrarDigitosCodigo(it);
+    const int alturaBarra = AlturaBarrasCodigo(it, celula.height());
+
+    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, valor, alturaBarra, mostrarTexto, angulo);
+    QSize tamanho = simbolo.size();
+    if (&simbolo != &ImagemErro()) {
+        const int mag = MagnificacaoAtributos(it.Atributos);
+        // A linear symbol grows along its length, a PDF417 symbol across it.
+        const bool aoComprido = (it.Tipo == TipoPDF417) == deitado;
+        if (aoComprido)
+            tamanho.setWidth(tamanho.width() * mag);
+        else
+            tamanho.setHeight(tamanho.height() * mag);
+    }
+    const QRect destino(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
+    if (destino.intersects(c.area))
+        c.p.drawImage(destino, simbolo);
+}
+
+void PintarBarraGrafico(Contexto &c, const Item &it, const CoresMacro &cores, const QRect &celula)
+{
+    if (it.Largura <= 0)
+        return;
+    const double numero = std::abs(NumeroInicial(ValorExibido(cores.texto, "10")));
+    // No band is anywhere near this tall; it only keeps absurd values finite.
+    int altura = int(std::nearbyint(std::min(numero, 1.0e6)));
+    if (altura == 0)
+        altura = 1;
+    const QSize tamanho(it.Largura, altura);
+    const QRect destino(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
+    if (!destino.intersects(c.area))
+        return;
+    const QColor preenchimento = it.CorTexto >= 80 ? QColor(Qt::black) : ResolverCor(it.CorTexto, cores.frente);
+    const QColor contorno = it.CorFundo >= 80 ? preenchimento : ResolverCor(it.CorFundo, cores.fundo);
+    c.p.fillRect(destino, preenchimento);
+    Contorno(c.p, destino.left(), destino.top(), destino.right(), destino.bottom(), contorno);
+}
+
+void PintarTexto(Contexto &c, const Item &it, const FonteItem &fonte, const CoresMacro &cores, const QRect &celula,
+                 bool celulaVisivel)
+{
+    if (cores.texto.isEmpty() || it.Largura < 5)
+        return;
+    const OpcoesTexto op = OpcoesDoItem(it);
+    const QString mostrado = ExpandirMacros(cores.texto, 1);
+    const QColor cor = ResolverCor(it.CorTexto, cores.frente);
+    const double x = celula.x() + 2, y = celula.y(), w = it.Largura - 4, h = celula.height();
+    if (!celulaVisivel) {
+        // Unclipped text of a cell outside the area: draw it only when its
+        // words reach into the area.
+        QRect extensao;
+        DesenharTexto(nullptr, c.r.Fontes, fonte, cor, mostrado, x, y, w, h, op, true, &extensao);
+        if (!extensao.intersects(c.area))
+            return;
+    }
+    DesenharTexto(&c.p, c.r.Fontes, fonte, cor, mostrado, x, y, w, h, op, false);
+}
+
+void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, int fundo, bool bandaVisivel)
+{
+    const bool figura = it.Tipo == TipoFigura;
+    const bool barras = EhCodigoBarras(it.Tipo);
+    const bool grafico = it.Tipo == TipoBarraGrafico;
+    const bool texto = !figura && !barras && !grafico;
+    // Pictures, symbols, bars and unclipped text may reach out of their cell.
+    const bool transborda = !texto || PosicaoLigada(it.Atributos, 8);
+    const int esquerda = it.Esquerda + DeslocamentoItens;
+    const int direita = esquerda + it.Largura;  // exclusive
+    const bool celulaVisivel = bandaVisivel && esquerda <= c.area.right() && direita > c.area.left();
+    if (!celulaVisivel && !transborda)
+        return;
+
+    const CoresMacro cores = it.Texto.contains(QLatin1String("<%_")) ? MacroColor(it.Texto) : CoresMacro{it.Texto};
+    const QRect celula(esquerda, topo, it.Largura, fundo - topo);
+
+    if (celulaVisivel) {
+        Contorno(c.p, esquerda, topo, direita - 1, fundo - 1, QColor(230, 230, 230));
+        if (!grafico) {
+            if (it.CorFundo != CorTransparente || cores.fundo != -1)
+                c.p.fillRect(celula, ResolverCor(it.CorFundo, cores.fundo));
+            if (it.Linhas != QLatin1String("0000000000"))
+                PintarBordas(c.p, it, celula, ResolverCor(it.CorLinha, cores.linha));
+        }
+    }
+
+    if (figura)
+        PintarFigura(c, it, cores.texto, celula);
+    else if (barras)
+        PintarCodigoBarras(c, it, cores.texto, celula);
+    else if (grafico)
+        PintarBarraGrafico(c, it, cores, celula);
+    else
+        PintarTexto(c, it, fonte, cores, celula, celulaVisivel);
+}
+
+void PintarSelecao(QPainter &p, const LayoutDocumento &doc, const OpcoesPintura &op)
+{
+    if (op.bandaSelecionada < 1 || op.bandaSelecionada > doc.NumBandas())
+        return;
+    const Banda &b = doc.banda(op.bandaSelecionada);
+    const int topo = b.Topo, altura = std::abs(b.Altura);
+    const QColor marca(0, 0, 128);
+    Caixa(p, 0, topo, 0, topo + altura - 1, marca);
+    if (op.itemSelecionado < 1 || op.itemSelecionado > b.NumItens())
+        return;
+    const Item &it = b.Itens[op.itemSelecionado - 1];
+    const int x1 = it.Esquerda + DeslocamentoItens, x2 = x1 + it.Largura - 1, y2 = topo + altura - 1;
+    Contorno(p, x1, topo, x2, y2, marca);
+    const int xm = (x1 + x2) / 2, ym = (topo + y2) / 2;
+    const QPoint alcas[] = {{x1, topo}, {xm, topo}, {x2, topo}, {x1, ym}, {x2, ym}, {x1, y2}, {xm, y2}, {x2, y2}};
+    for (const QPoint &a : alcas)
+        Caixa(p, a.x() - 2, a.y() - 2, a.x() + 2, a.y() + 2, marca);
+}
+
+}  // namespace
+
+bool MostrarDigitosCodigo(const Item &item)
+{
+    return !Justificar(item.Atributos) && item.Tipo != TipoInterlace25SemNumeros;
+}
+
+int AlturaBarrasCodigo(const Item &item, int alturaBanda)
+{
+    const int angulo = AnguloAtributos(item.Atributos);
+    const bool deitado = angulo == 90 || angulo == 270;
+    const int h = (deitado ? item.Largura : alturaBanda) - (MostrarDigitosCodigo(item) ? 12 : 0);
+    const QChar pos10 = item.Atributos.size() >= 10 ? item.Atributos[9] : QChar();
+    if (PosicaoLigada(item.Atributos, 8))
+        return pos10 == QLatin1Char('1') ? std::max(h, 40) : 40;
+    return (pos10 == QLatin1Char('0') && h >= 41) ? 40 : h;
+}
+
+ResultadoAlturas AtualizarAlturas(LayoutDocumento &doc, int bandaSelecionada, MedidorAltura &medidor)
+{
+    ResultadoAlturas r;
+    const int n = doc.NumBandas();
+    if (bandaSelecionada >= 1 && bandaSelecionada <= n)
+        doc.ReposicionarItem(bandaSelecionada);
+    qint64 topoAnterior = 0, fundoAnterior = 0;
+    for (int i = 0; i < n; ++i) {
+        Banda &b = doc.Bandas[i];
+        if (i == 0) {
+            b.Topo = TopoPrimeiraBanda;
+        } else {
+            qint64 topo = fundoAnterior + b.Deslocamento;
+            if (topo < topoAnterior)
+                topo = topoAnterior;
+            b.Topo = Limitar32(topo);
+        }
+        if (b.Altura < 1) {
+            const int32_t h = -CalcularAlturaBanda(b, medidor);
+            if (h != b.Altura) {
+                b.Altura = h;
+                r.alturaMudou = true;
+            }
+            if (i + 1 == bandaSelecionada)
+                r.selecionadaAutomatica = true;
+        }
+        topoAnterior = b.Topo;
+        fundoAnterior = qint64(b.Topo) + std::abs(qint64(b.Altura));
+    }
+    return r;
+}
+
+ResultadoRepintura PrepararRepintura(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos)
+{
+    ResultadoRepintura r;
+    LayoutDocumento &doc = sessao.Documento;
+    const ResultadoAlturas a = AtualizarAlturas(doc, sessao.BandaSelecionada, recursos.Medidor);
+    r.alturaMudou = a.alturaMudou;
+    r.selecionadaAutomatica = a.selecionadaAutomatica;
+    if (canvas.TamanhoTotal) {
+        r.canvasCresceu = canvas.CrescerLargura(doc);
+        for (const Banda &b : doc.Bandas)
+            r.canvasCresceu |= canvas.CrescerAltura(Limitar32(qint64(b.Topo) + std::abs(qint64(b.Altura))));
+    }
+    r.memoriaInsuficiente = !canvas.VerificarMemoria();
+    if (r.memoriaInsuficiente && sessao.Ui)
+        sessao.Ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
+    return r;
+}
+
+void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &area, RecursosCanvas &recursos,
+                  const OpcoesPintura &opcoes)
+{
+    recursos.Figuras.NovaPassagem();
+    pintor.save();
+    pintor.setClipRect(area, Qt::IntersectClip);
+    pintor.fillRect(area, Qt::white);
+    PintarMarcador(pintor, doc.Paisagem, recursos);
+
+    const int n = doc.NumBandas();
+    std::vector<bool> quebras(size_t(n) + 1, false);
+    for (int16_t q : doc.Quebras)
+        if (q >= 1 && q <= n)
+            quebras[size_t(q)] = true;
+
+    Contexto c{pintor, recursos, area};
+    const FonteItem *fonte = &FonteCanvas();
+    for (int i = 1; i <= n; ++i) {
+        const Banda &banda = doc.banda(i);
+        const int topo = banda.Topo;
+        const int fundo = Limitar32(qint64(topo) + std::abs(qint64(banda.Altura)));
+        const bool visivel = topo <= area.bottom() && fundo > area.top();
+        if (visivel)
+            PintarMarcadoresBanda(pintor, banda, quebras[size_t(i)], topo, fundo);
+        for (const Item &it : banda.Itens) {
+            if (FonteValida(it.Fonte))
+                fonte = &it.Fonte;
+            PintarItem(c, it, *fonte, topo, fundo, visivel);
+        }
+    }
+    if (opcoes.marcarSelecao)
+        PintarSelecao(pintor, doc, opcoes);
+    pintor.restore();
+}
+
+ResultadoRepintura ExibirBanda(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos,
+                               const OpcoesPintura &opcoes)
+{
+    ResultadoRepintura r = PrepararRepintura(sessao, canvas, recursos);
+    if (!canvas.GarantirImagem()) {
+        if (!r.memoriaInsuficiente && sessao.Ui)
+            sessao.Ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
+        r.memoriaInsuficiente = true;
+    }
+    if (canvas.Imagem.isNull())
+        return r;
+    QPainter p(&canvas.Imagem);
+    PintarLayout(p, sessao.Documento, QRect(QPoint(0, 0), canvas.Tamanho), recursos, opcoes);
+    return r;
+}
+
+}  // namespace lumeta

@@ -1,0 +1,55 @@
+#pragma once
+// Helpers of the canvas tests: painted pictures and where their ink lies.
+
+#include <QColor>
+#include <QImage>
+#include <QRect>
+#include <functional>
+
+namespace lumeta::teste {
+
+// The bounding box of the pixels that satisfy `tinta` inside `area` (the
+// whole image when empty); empty when there are none.
+inline QRect CaixaTinta(const QImage &img, const std::function<bool(QRgb)> &tinta, QRect area = {})
+{
+    if (area.isNull())
+        area = img.rect();
+    area &= img.rect();
+    QRect r;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (tinta(img.pixel(x, y)))
+                r |= QRect(x, y, 1, 1);
+    return r;
+}
+
+inline bool NaoBranco(QRgb c) { return (c & 0xFFFFFF) != 0xFFFFFF; }
+
+// Text ink of a colour: antialiased pixels mix it with white, so a pixel
+// counts when it is clearly of that hue.
+inline std::function<bool(QRgb)> TintaDe(QColor cor)
+{
+    return [cor](QRgb c) {
+        const int dr = qRed(c) - cor.red(), dg = qGreen(c) - cor.green(), db = qBlue(c) - cor.blue();
+        return dr * dr + dg * dg + db * db < 3 * 110 * 110 && NaoBranco(c);
+    };
+}
+
+inline int ContarPixels(const QImage &img, QRect area, QRgb cor)
+{
+    area &= img.rect();
+    int n = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            n += (img.pixel(x, y) & 0xFFFFFF) == (cor & 0xFFFFFF);
+    return n;
+}
+
+// Whether every pixel of `area` has the colour.
+inline bool Todos(const QImage &img, QRect area, QRgb cor)
+{
+    return ContarPixels(img, area, cor) == (area & img.rect()).width() * (area & img.rect()).height()
+        && !(area & img.rect()).isEmpty();
+}
+
+}  // namespace lumeta::teste

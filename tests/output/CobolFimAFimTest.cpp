@@ -1,0 +1,353 @@
+// The generated copybook compiled by a real COBOL compiler: a program that
+// includes it must write, byte for byte, the command file of the layout.
+#include "output/CopiarComo.h"
+
+#include "document/Texto1252.h"
+#include "output/TextoComandos.h"
+#include "support/TestSupport.h"
+
+#include <QFile>
+#include <QMap>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+const QString kCRLF = QStringLiteral("\r\n");
+
+QString juntar(std::initializer_list<const char *> l)
+{
+    QStringList r;
+    for (const char *s : l)
+        r.append(QString::fromUtf8(s));
+    return r.join(kCRLF);
+}
+
+// Each template writes one command line. COBOL pads a moved literal with
+// blanks, so the program trims the blanks it added; the simple commands end
+// their literal with "~" because "E " has a blank of its own that must stay.
+// The item value and the number after "RH"/"MS" are moved apart from the
+// code, so that a host variable can take their place.
+LinguagemDef linguagemCobol(bool cobolString)
+{
+    LinguagemDef l;
+    l.DefVariaveis = QStringLiteral("       01 WS-LINHA PIC X(400).");
+    l.ComentarioInicial = juntar({"      * Código gerado pelo LumetaEdit: cada linha de comando do",
+                                  "      * layout é gravada por um PERFORM."});
+    l.ComandoF = juntar({"           move \"§c§t§n§i§s§r§f\" to WS-LINHA", "           perform GRAVA-LINHA"});
+    l.ComandoL = juntar({"           move \"§c§cl§cf§ei§ci§ai§el\" to WS-LINHA", "           perform GRAVA-LINHA"});
+    l.ComandoT = juntar({"           move \"§c§cl§cf§ei§ci§ai\" to WS-LINHA", "           move \"§t\" to WS-VALOR",
+                         "           perform GRAVA-VALOR"});
+    l.ComandoRH = juntar({"           move \"§c\" to WS-LINHA", "           move \"§rh\" to WS-VALOR",
+                          "           perform GRAVA-RH"});
+    l.ComandosSimples = juntar({"           move \"§c~\" to WS-LINHA", "           perform GRAVA-SIMPLES"});
+    l.ChamadaViewer = QStringLiteral("           call \"SYSTEM\" using WS-CHAMADA");
+    l.EhCobol = true;
+    l.CobolString = cobolString;
+    return l;
+}
+
+const char *const kPrograma = R"(       identification division.
+       program-id. relatorio.
+       environment division.
+       input-output section.
+       file-control.
+           select saida assign to "comandos.txt"
+               organization is sequential.
+       data division.
+       file section.
+       fd saida.
+       01 reg-saida pic x.
+       working-storage section.
+       01 ws-linha pic x(400).
+       01 ws-valor pic x(400).
+       01 ws-buf pic x(400).
+       01 ws-tam pic 9(4) comp.
+       01 ws-i pic 9(4) comp.
+       01 ws-nome pic x(13) value "Fulano de Tal".
+       01 ws-margem pic x(3) value "012".
+       01 ws-foto pic x(9) value "fundo.jpg".
+       01 ws-codigo pic x(8) value "CODE-39X".
+       01 ws-barra pic x(2) value "10".
+       procedure division.
+       inicio.
+           open output saida
+           copy "relatorio.cpy".
+           close saida
+           stop run.
+       grava-linha.
+           move ws-linha to ws-buf
+           perform mede
+           perform escreve
+           perform fim-linha.
+       grava-simples.
+           move ws-linha to ws-buf
+           perform mede
+           subtract 1 from ws-tam
+           perform escreve
+           perform fim-linha.
+       grava-valor.
+           move ws-linha to ws-buf
+           perform mede
+           perform escreve
+           move ws-valor to ws-buf
+           perform mede
+           perform escreve
+           perform fim-linha.
+       grava-rh.
+           move ws-linha to ws-buf
+           perform mede
+           perform escreve
+           move space to reg-saida
+           write reg-saida
+           move ws-valor to ws-buf
+           perform mede
+           perform escreve
+           perform fim-linha.
+       mede.
+           move 400 to ws-tam
+           perform until ws-tam = 0
+               if ws-buf(ws-tam:1) not = space
+                   exit perform
+               end-if
+               subtract 1 from ws-tam
+           end-perform.
+       escreve.
+           perform varying ws-i from 1 by 1 until ws-i > ws-tam
+               move ws-buf(ws-i:1) to reg-saida
+               write reg-saida
+           end-perform.
+       fim-linha.
+           move x"0D" to reg-saida
+           write reg-saida
+           move x"0A" to reg-saida
+           write reg-saida.
+)";
+
+Item item(uint8_t tipo, const QString &texto, int esquerda, int largura)
+{
+    Item it;
+    it.Tipo = tipo;
+    it.Texto = texto;
+    it.Esquerda = esquerda;
+    it.Largura = largura;
+    return it;
+}
+
+// Every item type, fonts that change, frame lines, a margin variable, a band
+// comment on both sides, long texts with accents, page breaks and options.
+LayoutDocumento layoutCompleto()
+{
+    LayoutDocumento doc;
+    doc.NomeImpressora = QStringLiteral("HP LaserJet 4");
+    doc.MargemSuperior = QStringLiteral("\"100\"");
+    doc.MargemEsquerda = QStringLiteral("WS-MARGEM");
+    doc.MargemInferior = QStringLiteral("\"250\"");
+    doc.TipoEmail = 4;
+    doc.QualidadeJPG = 85;
+    doc.TextoEmail = QStringLiteral("Prezado cliente,{ENTER}segue o relatório mensal de vendas em anexo."
+                                    "{ENTER}Atenciosamente, Depto. Comercial");
+    doc.Paisagem = doc.Imprimir = doc.Visivel = doc.TemCapa = doc.EnviarEmail = true;
+    doc.QuebraPaginaFinal = true;
+
+    Banda cab;
+    cab.Altura = 30;
+    Item titulo = item(TipoTexto, QStringLiteral("Relatório de Vendas — Filial São João"), 0, 400);
+    titulo.Fonte = FonteItem{QStringLiteral("Arial"), 14, true, false, false, false};
+    titulo.Atributos = QStringLiteral("0000100110");
+    titulo.Linhas = QStringLiteral("0101000000");
+    titulo.CorLinha = 4;
+    titulo.Espessura = 2;
+    titulo.CorTexto = 12;
+    Item pagina = item(TipoTexto, QStringLiteral("Página (%_pag_%) de (%_pgs_%)"), 400, 160);
+    pagina.Fonte = FonteItem{QStringLiteral("Arial"), 8, false, true, false, false};
+    cab.Itens = {titulo, pagina};
+    doc.Bandas.append(cab);
+    doc.BandaCabecalho = 1;
+
+    Banda corpo;
+    corpo.Deslocamento = -12;
+    corpo.Comentario = juntar({"           move \"01 Antes da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"})
+        + QChar(0xFF)
+        + juntar({"           move \"02 Depois da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"});
+    Item fundo = item(TipoTexto, QStringLiteral("Cliente:"), 0, 64);
+    fundo.CorFundo = 7;
+    fundo.Fonte.Nome = QStringLiteral("Courier New");
+    corpo.Itens = {fundo,
+                   item(TipoComando, QStringLiteral("WS-NOME"), 64, 120),
+                   item(TipoFigura, QStringLiteral("\"logo.bmp\""), 184, 48),
+                   item(TipoFigura, QStringLiteral("WS-FOTO"), 232, 48),
+                   item(TipoFigura, QString(), 280, 16),
+                   item(TipoBarraGrafico, QStringLiteral("\"35\""), 296, 40),
+                   item(TipoBarraGrafico, QStringLiteral("WS-BARRA"), 336, 40),
+                   item(TipoTexto, QStringLiteral("x"), 376, 4)};
+    corpo.Itens[5].CorTexto = 2;
+    corpo.Itens[5].CorFundo = 9;
+    corpo.Itens[6].Linhas = QStringLiteral("1111000000");  // never an "L " line for a bar
+    doc.Bandas.append(corpo);
+    doc.QuebraPaginaAdd(2);
+
+    Banda barras;
+    barras.Altura = 0;
+    barras.Deslocamento = 5;
+    const std::pair<uint8_t, const char *> codigos[] = {
+        {TipoEAN13, "\"7891234567895\""}, {TipoEAN8, "\"12345670\""},     {TipoCode39Check, "WS-CODIGO"},
+        {TipoCode128C, "\"123456\""},     {TipoInterlace25, "\"1234\""}, {TipoCode39, "\"ABC-123\""},
+        {TipoInterlace25SemNumeros, "\"5678\""}, {TipoInterlace25NumerosTopo, "\"9012\""},
+        {TipoCode128B, "\"Code 128 B\""},
+        {TipoPDF417, "\"PDF417 com um texto comprido o bastante para passar da coluna 72\""}};
+    int x = 0;
+    for (const auto &[tipo, valor] : codigos) {
+        barras.Itens.append(item(tipo, QString::fromUtf8(valor), x, 72));
+        x += 72;
+    }
+    doc.Bandas.append(barras);
+
+    Banda detalhe;
+    detalhe.Itens = {item(TipoTexto,
+                          QStringLiteral("Observação: este texto é longo de propósito, com acentuação (ação, "
+                                         "coração, pão), para que o COBOL o divida em várias linhas seguidas "
+                                         "e as colunas sejam contadas em bytes."),
+                          0, 700),
+                     // Shorter than the one before, but still cut: STRING must not
+                     // leave the end of the previous value behind.
+                     item(TipoTexto, QStringLiteral("Segundo texto, mais curto que o anterior, mas além da coluna"),
+                          700, 100)};
+    detalhe.Itens[0].Atributos = QStringLiteral("1000000010");
+    doc.Bandas.append(detalhe);
+
+    Banda rodape;
+    rodape.Itens = {item(TipoTexto, QStringLiteral("{n}Total geral:{/n} R$ 1.234,56"), 0, 300)};
+    doc.Bandas.append(rodape);
+    doc.BandaRodape = 5;
+    return doc;
+}
+
+struct Processo {
+    int codigo = -1;
+    QByteArray saida;
+};
+
+Processo rodar(const QString &programa, const QStringList &args, const QString &pasta)
+{
+    QProcess p;
+    p.setWorkingDirectory(pasta);
+    p.setProcessChannelMode(QProcess::MergedChannels);
+    p.start(programa, args);
+    if (!p.waitForFinished(120000))
+        return {};
+    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAll()};
+}
+
+// Compiles the program around the copybook and runs it; the command file it
+// wrote, or an explanation of what went wrong.
+QByteArray compilarERodar(const QString &cobc, const QString &pasta, const QString &copybook, QString *erro)
+{
+    teste::GravarArquivoTeste(pasta + QStringLiteral("/relatorio.cpy"), Para1252(copybook));
+    teste::GravarArquivoTeste(pasta + QStringLiteral("/relatorio.cbl"), QByteArray(kPrograma));
+    QFile::remove(pasta + QStringLiteral("/comandos.txt"));
+    const Processo c = rodar(cobc, {QStringLiteral("-x"), QStringLiteral("-o"), QStringLiteral("relatorio"),
+                                    QStringLiteral("relatorio.cbl")}, pasta);
+    if (c.codigo != 0 || !c.saida.isEmpty()) {
+        *erro = QStringLiteral("cobc: ") + QString::fromLocal8Bit(c.saida);
+        if (c.codigo != 0)
+            return {};
+    }
+    const Processo r = rodar(pasta + QStringLiteral("/relatorio"), {}, pasta);
+    if (r.codigo != 0) {
+        *erro += QStringLiteral("program: ") + QString::fromLocal8Bit(r.saida);
+        return {};
+    }
+    return teste::LerArquivo(pasta + QStringLiteral("/comandos.txt"));
+}
+
+}  // namespace
+
+TEST(CobolFimAFim, ProgramaCompiladoGravaOArquivoDeComandosDoLayout)
+{
+    const QString cobc = QStandardPaths::findExecutable(QStringLiteral("cobc"));
+    if (cobc.isEmpty())
+        GTEST_SKIP() << "cobc (GnuCOBOL) is not installed; tools/install-deps.sh installs it";
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+
+    const LayoutDocumento doc = layoutCompleto();
+    const QStringList comandos = GerarTextoComandos(doc).split(kCRLF, Qt::SkipEmptyParts);
+
+    // Lines the program writes differently on purpose: the host's data in
+    // place of a variable's name or a sample value, and the text template's
+    // geometry (left + 2, width - 4) for pictures and barcodes. An empty
+    // replacement is a picture without text, which has no line in the code.
+    const QMap<QString, QString> proprias = {
+        {QStringLiteral("ME WS-MARGEM"), QStringLiteral("ME 012")},
+        {QStringLiteral("T 009900066001160000100010WS-NOME"), QStringLiteral("T 009900066001160000100010Fulano de Tal")},
+        {QStringLiteral("G 009900184000480000100010logo.bmp"), QStringLiteral("G 009900186000440000100010logo.bmp")},
+        {QStringLiteral("G 009900232000480000100010"), QStringLiteral("G 009900234000440000100010fundo.jpg")},
+        {QStringLiteral("G 009900280000160000100010"), QString()},
+        {QStringLiteral("Ba0099000000007200001000107891234567895"), QStringLiteral("Ba0099000020006800001000107891234567895")},
+        {QStringLiteral("Bb00990007200072000010001012345670"), QStringLiteral("Bb00990007400068000010001012345670")},
+        {QStringLiteral("Bc0099001440007200001000101234567890"), QStringLiteral("Bc009900146000680000100010CODE-39X")},
+        {QStringLiteral("Bd009900216000720000100010123456"), QStringLiteral("Bd009900218000680000100010123456")},
+        {QStringLiteral("Be0099002880007200001000101234"), QStringLiteral("Be0099002900006800001000101234")},
+        {QStringLiteral("Bf009900360000720000100010ABC-123"), QStringLiteral("Bf009900362000680000100010ABC-123")},
+        {QStringLiteral("Bg0099004320007200001000105678"), QStringLiteral("Bg0099004340006800001000105678")},
+        {QStringLiteral("Bh0099005040007200001000109012"), QStringLiteral("Bh0099005060006800001000109012")},
+        {QStringLiteral("Bi009900576000720000100010Code 128 B"), QStringLiteral("Bi009900578000680000100010Code 128 B")},
+        {QStringLiteral("B0009900648000720000100010PDF417 com um texto comprido o bastante para passar da coluna 72"),
+         QStringLiteral("B0009900650000680000100010PDF417 com um texto comprido o bastante para passar da coluna 72")},
+    };
+    QStringList esperado;
+    int iguais = 0;
+    for (const QString &linha : comandos) {
+        if (!proprias.contains(linha)) {
+            esperado.append(linha);
+            ++iguais;
+        } else if (!proprias[linha].isEmpty()) {
+            esperado.append(proprias[linha]);
+        }
+    }
+    for (auto it = proprias.begin(); it != proprias.end(); ++it)
+        ASSERT_EQ(comandos.count(it.key()), 1) << it.key().toStdString();
+    EXPECT_EQ(iguais, comandos.size() - proprias.size());
+    // The band comment's code runs before the band's first command (its page
+    // break) and after its last one.
+    const qsizetype qp = esperado.indexOf(QStringLiteral("QP"));
+    esperado.insert(qp, QStringLiteral("01 Antes da banda"));
+    esperado.insert(esperado.indexOf(QStringLiteral("QL"), qp) + 1, QStringLiteral("02 Depois da banda"));
+    const QByteArray bytesEsperados = Para1252(esperado.join(kCRLF) + kCRLF);
+
+    // The lines that must equal the command text include every kind of them.
+    for (const char *l : {"E ", "IP", "IR", "SV", "TC", "MS 100", "MI 250", "EP 85", "FC", "RO", "QP", "RT -0012",
+                          "RT 00005", "RH 00000", "RH 00030", "F 141000Arial", "F 080100Arial", "F 100000Courier New",
+                          "L 04990000000400010100000002", "L 00070000000064000000000001",
+                          "LG02090029600040000010001035", "LG00990033600040000010001010"})
+        EXPECT_TRUE(esperado.contains(QString::fromUtf8(l))) << l;
+
+    for (bool cobolString : {false, true}) {
+        SCOPED_TRACE(cobolString ? "STRING" : "continuacao");
+        const QString copybook = GerarCopiarComo(doc, linguagemCobol(cobolString));
+        // The splitter did its work: every line fits the 72 columns, in bytes.
+        const QByteArray cpy = Para1252(copybook);
+        for (const QByteArray &l : cpy.split('\n'))
+            EXPECT_LE(l.size(), 73) << l.toStdString();
+        EXPECT_EQ(copybook.contains(QStringLiteral("\r\n      -    \"")), !cobolString);
+        EXPECT_EQ(copybook.contains(QStringLiteral(" delimited by size into WS-VALOR\r\n")), cobolString);
+        EXPECT_EQ(copybook.contains(QStringLiteral(" delimited by size into WS-LINHA\r\n")), cobolString);
+
+        QString erro;
+        const QByteArray saida = compilarERodar(cobc, dir.path(), copybook, &erro);
+        EXPECT_TRUE(erro.isEmpty()) << erro.toStdString();
+        EXPECT_TRUE(saida == bytesEsperados) << "the command file differs, see the lines below";
+        // Line by line, for a readable report when they differ.
+        const QStringList obtidas = De1252(saida).split(kCRLF);
+        const QStringList esperadas = De1252(bytesEsperados).split(kCRLF);
+        for (qsizetype i = 0; i < std::min(obtidas.size(), esperadas.size()); ++i)
+            EXPECT_EQ(obtidas[i], esperadas[i]) << "line " << i + 1;
+        EXPECT_EQ(obtidas.size(), esperadas.size());
+    }
+}

@@ -38,14 +38,11 @@ SessaoEdicao::SessaoEdicao()
 
 void SessaoEdicao::ExibirBanda()
 {
-    for (int b = 1; b <= Documento.NumBandas(); ++b)
-        Documento.ReposicionarItem(b);
-    Documento.ReposicionarBanda();
-    if (CalcularAlturas) {
-        CalcularAlturas(Documento);
-        Documento.ReposicionarBanda();
-    }
-    chamar(Ganchos.Pintar);
+    UltimaRepintura = PrepararRepintura(*this, Canvas, Recursos);
+    if (Ganchos.Pintar)
+        Ganchos.Pintar(UltimaRepintura);
+    if (UltimaRepintura.selecionadaAutomatica)
+        chamar(Ganchos.SelecionarItem);
     Alterado = true;
     if (!Desfazer.SemInstantaneo)
         Desfazer.Gravar(Documento, BandaSelecionada, ItemSelecionado);
@@ -115,6 +112,7 @@ bool SessaoEdicao::Iniciar(const QStringList &argumentos, const QString &pastaPr
 
     Config.Ler();
     FontePadrao = Config.FontePadrao;
+    chamar(Ganchos.ConfiguracoesLidas);
     chamar(Ganchos.UnidadeAlterada);
     chamar(Ganchos.ResultadoAlternado);
 

@@ -6,6 +6,7 @@
 // Nothing here knows a widget: the window plugs into the hooks below, and the
 // tests drive the same operations with a scripted user.
 
+#include "canvas/Pintor.h"
 #include "controls/clsConcatenarString.h"
 #include "document/Desfazer.h"
 #include "document/Sessao.h"
@@ -18,7 +19,9 @@ namespace lumeta {
 // What the window does at the points of the cycle and of the file commands.
 // Every hook may be left empty.
 struct GanchosSessao {
-    std::function<void()> Pintar;                              // draw the canvas from the model
+    // Draw the canvas from the prepared model; the result says whether the
+    // canvas grew (scroll bar maxima) or the selected band's height changed.
+    std::function<void(const ResultadoRepintura &)> Pintar;
     std::function<void(const QString &)> MostrarResultado;     // the command text into the result pane
     std::function<void()> SelecionarBanda;                     // show the selected band again
     std::function<void()> SelecionarItem;                      // show the selection again
@@ -26,6 +29,7 @@ struct GanchosSessao {
     std::function<void()> RolagemInicial;                      // both canvas scroll bars to 0
     std::function<void()> Titulo;                              // the caption may have changed
     std::function<void()> ArquivosRecentes;                    // rebuild the recent-file menu
+    std::function<void()> ConfiguracoesLidas;                  // apply the settings read at start-up
     std::function<void()> UnidadeAlterada;                     // unit check marks, labels and fields
     std::function<void()> ResultadoAlternado;                  // show or hide the result pane
     std::function<void()> OpcoesAlteradas;                     // check marks of the page options
@@ -33,14 +37,12 @@ struct GanchosSessao {
     std::function<void()> Encerrar;                            // end the program at once, no questions
 };
 
-// Computes the automatic band heights of a document (stores them negated).
-// Supplied by the canvas; without it automatic bands keep their last height.
-using CalculoAlturas = std::function<void(LayoutDocumento &)>;
-
 class SessaoEdicao : public SessaoEditor {
 public:
     GanchosSessao Ganchos;
-    CalculoAlturas CalcularAlturas;
+    CanvasPagina Canvas;            // size of the page canvas, full-size flag
+    RecursosCanvas Recursos;        // fonts, measured heights, pictures, symbols
+    ResultadoRepintura UltimaRepintura;
     AnelDesfazer Desfazer;
     QString TextoResultado;         // the command text last shown
     QString ArquivoTransferencia;   // clipboard exchange file, fixed at start-up
@@ -48,8 +50,9 @@ public:
 
     SessaoEdicao();
 
-    // The repaint that every change ends with: relayout, automatic heights,
-    // paint, document changed, undo snapshot (unless suppressed), command text.
+    // The repaint that every change ends with: relayout of the selected band,
+    // band placement, automatic heights and canvas growth, paint, document
+    // changed, undo snapshot (unless suppressed), command text.
     void ExibirBanda();
     // ExibirBanda, then the selection and the property panel shown again.
     void ConcluirEdicao();

@@ -25,7 +25,7 @@ struct Sessao : SessaoEdicao {
     Sessao()
     {
         Ui = &ui;
-        Ganchos.Pintar = [this] { eventos << QStringLiteral("pintar"); };
+        Ganchos.Pintar = [this](const ResultadoRepintura &) { eventos << QStringLiteral("pintar"); };
         Ganchos.MostrarResultado = [this](const QString &) { eventos << QStringLiteral("resultado"); };
         Ganchos.SelecionarItem = [this] { eventos << QStringLiteral("selecionar"); };
         Ganchos.Validar = [this] { eventos << QStringLiteral("validar"); };
@@ -64,26 +64,23 @@ TEST(SessaoEdicao, CicloPintaMarcaAlteradoGuardaInstantaneoEGeraOTexto)
     EXPECT_EQ(Linhas(s.TextoResultado),
               QStringList({"QJ 92", "F 100000Arial", "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));
 
-    int alturasCalculadas = 0;
-    s.CalcularAlturas = [&](LayoutDocumento &d) {
-        ++alturasCalculadas;
-        for (Banda &b : d.Bandas)
-            if (b.Altura < 1)
-                b.Altura = -40;
-    };
     s.Documento.banda(1).Altura = 0;
     s.Documento.banda(1).Itens[0].Largura = 100;
     s.AddBanda(0, false, 0, 0);
     s.eventos.clear();
     s.ConcluirEdicao();
-    // The painter draws before the text is regenerated; selection and panel follow.
-    EXPECT_EQ(s.eventos, QStringList({"pintar", "resultado", "selecionar", "validar"}));
-    EXPECT_EQ(alturasCalculadas, 1);
+    // The painter draws before the text is regenerated; the band whose
+    // height was computed is the selected one, so the selection is shown
+    // again; then selection and panel as every command ends.
+    EXPECT_EQ(s.eventos, QStringList({"pintar", "selecionar", "resultado", "selecionar", "validar"}));
     EXPECT_TRUE(s.Alterado);
     EXPECT_TRUE(s.PodeDesfazer());
-    // Automatic height computed, stored negated, and the next band placed under it.
-    EXPECT_EQ(s.Documento.banda(1).Altura, -40);
-    EXPECT_EQ(s.Documento.banda(2).Topo, 16 + 40);
+    // Automatic height computed by the canvas, stored negated, and the next
+    // band placed under it.
+    const int altura = CalcularAlturaBanda(s.Documento.banda(1), s.Recursos.Medidor);
+    EXPECT_GT(altura, 8);
+    EXPECT_EQ(s.Documento.banda(1).Altura, -altura);
+    EXPECT_EQ(s.Documento.banda(2).Topo, 16 + altura);
     EXPECT_EQ(Linhas(s.TextoResultado),
               QStringList({"QJ 92", "F 100000Arial", "T 009900002000960000100010Texto 1", "RH 00000", "QL",
                            "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));

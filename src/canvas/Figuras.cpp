@@ -64,7 +64,10 @@ const QImage &CacheFiguras::Figura(const QString &nome)
             if (existe) {
                 QImageReader leitor(nome);
                 leitor.setDecideFormatFromContent(true);
-                const QImage lida = leitor.read();
+                // Only the formats the report viewer loads too; anything else
+                // (PNG, SVG...) shows the error picture, as it would not print.
+                static const QList<QByteArray> formatos = {"bmp", "ico", "cur", "gif", "jpeg", "jpg"};
+                const QImage lida = formatos.contains(leitor.format().toLower()) ? leitor.read() : QImage();
                 e.ok = !lida.isNull();
                 if (e.ok)
                     e.imagem = lida.convertToFormat(lida.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied

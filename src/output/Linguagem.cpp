@@ -140,7 +140,7 @@ QStringList ListarLinguagens(bool ordenar)
     QDir pasta(PastaLinguagens());
     // Name filters ignore letter case, as the file system the files come from does.
     const QStringList arquivos =
-        pasta.entryList({QStringLiteral("*") + ExtensaoLinguagem}, QDir::Files | QDir::Readable, QDir::Name);
+        pasta.entryList({QStringLiteral("*") + ExtensaoLinguagem}, QDir::Files, QDir::Name);
     QStringList nomes;
     nomes.reserve(arquivos.size());
     for (const QString &a : arquivos)

@@ -102,7 +102,10 @@ private:
         s_.Add(FimLinha);
     }
     // A filled template and its line end, through the splitter for COBOL.
-    void addCobol(const QString &t) { add(ling_.EhCobol ? QuebrarLinhasCobol(t + FimLinha, ling_.CobolString) : t + FimLinha); }
+    void addCobol(const QString &t)
+    {
+        add(ling_.EhCobol ? QuebrarLinhasCobol(t + FimLinha, ling_.CobolString) : t + FimLinha);
+    }
     void simples(const QString &codigo)
     {
         QString t = m_.simples;

@@ -1,11 +1,26 @@
-// Until the main window lands the editor's start shows the command-line tool's help.
+// The editor: one main window on the document named on the command line, or
+// on a new one.
+#include "app/gui/frmLumetaEdit.h"
+
 #include <QApplication>
-#include <QMessageBox>
+#include <QScreen>
+#include <QStyle>
 
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    QMessageBox::information(nullptr, QStringLiteral("LumetaEdit 2.0"),
-                             QStringLiteral("A janela do editor ainda não existe; use lumetaedit-cli."));
-    return 0;
+    QApplication::setApplicationName(lumeta::TituloAplicacao);
+    QApplication::setOrganizationName(lumeta::OrganizacaoConfig);
+    QApplication::setDesktopFileName(QStringLiteral("lumetaedit"));
+    lumeta::frmLumetaEdit janela;
+    if (!janela.Iniciar(QApplication::arguments().mid(1)))
+        return 1;
+    // A window as large as a laptop screen allows, centred on larger ones.
+    if (const QScreen *tela = janela.screen()) {
+        const QRect area = tela->availableGeometry();
+        const QSize tamanho = area.size().boundedTo(QSize(1280, 860));
+        janela.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, tamanho, area));
+    }
+    janela.show();
+    return QApplication::exec();
 }

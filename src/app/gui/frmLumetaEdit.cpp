@@ -1,0 +1,776 @@
+#include "app/gui/frmLumetaEdit.h"
+
+#include "app/gui/Autor.h"
+#include "app/gui/CanvasJanela.h"
+#include "controls/ModuloAssociar.h"
+#include "controls/ui/CommonDialogCls.h"
+#include "controls/ui/TabCtl.h"
+#include "controls/ui/XPButtonCtl.h"
+#include "document/ModuloLumetaEdit.h"
+#include "output/CopiarComo.h"
+#include "output/Linguagem.h"
+#include "output/Macros.h"
+#include "output/TextoComandos.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTextEdit>
+#include <QUrl>
+
+namespace lumeta {
+
+namespace {
+
+// 9495 x 5760 twips at 15 twips a pixel.
+constexpr int LarguraMinimaJanela = 633;
+constexpr int AlturaMinimaJanela = 384;
+// One step of the canvas's scroll bars (the wheel and the arrows).
+constexpr int PassoRolagem = 48;
+
+QString escaparMenu(QString texto)
+{
+    return texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+bool ehCaixaDeTexto(QWidget *w)
+{
+    return qobject_cast<QLineEdit *>(w) || qobject_cast<QTextEdit *>(w) || qobject_cast<QPlainTextEdit *>(w);
+}
+
+}  // namespace
+
+frmLumetaEdit::frmLumetaEdit(InterfaceUsuario *ui, QWidget *pai)
+    : QMainWindow(pai), m_roda([this](DirecaoRolagem d) { RolarCanvas(d); })
+{
+    setObjectName(QStringLiteral("frmLumetaEdit"));
+    if (!ui) {
+        m_uiPropria = std::make_unique<InterfaceUsuarioQt>(this);
+        ui = m_uiPropria.get();
+    }
+    m_sessao.Ui = ui;
+    AoEncerrar = [this] {
+        hide();
+        QCoreApplication::exit(1);
+    };
+    setWindowIcon(QIcon(QPixmap::fromImage(DesenharIconeLumetaEdit(64))));
+    setMinimumSize(LarguraMinimaJanela, AlturaMinimaJanela);
+    criarMenus();
+    criarJanela();
+    ligarSessao();
+    atualizarTitulo();
+    resize(1120, 720);
+}
+
+frmLumetaEdit::~frmLumetaEdit()
+{
+    m_roda.RemoverRoda();
+    // The hooks point into this window; the session outlives the widgets by
+    // a few statements of the destructor.
+    m_sessao.Ganchos = GanchosSessao();
+}
+
+QAction *frmLumetaEdit::Acao(const QString &nome) const
+{
+    return findChild<QAction *>(nome);
+}
+
+// --- menus -------------------------------------------------------------------------
+
+QAction *frmLumetaEdit::item(QMenu *menu, const QString &nome, const QString &legenda, bool habilitado)
+{
+    QAction *a = menu->addAction(legenda);
+    a->setObjectName(nome);
+    a->setEnabled(habilitado);
+    return a;
+}
+
+QMenu *frmLumetaEdit::submenu(QMenu *menu, const QString &nome, const QString &legenda)
+{
+    QMenu *m = menu->addMenu(legenda);
+    m->setObjectName(nome);
+    m->menuAction()->setObjectName(nome);
+    return m;
+}
+
+void frmLumetaEdit::criarMenus()
+{
+    criarMenuArquivo();
+    criarMenuEditar();
+    criarMenuConfig();
+    criarMenuAjuda();
+}
+
+void frmLumetaEdit::criarMenuArquivo()
+{
+    mnuArquivo = menuBar()->addMenu(QStringLiteral("&Arquivo"));
+    mnuArquivo->setObjectName(QStringLiteral("mnuArquivo"));
+    mnuArquivo->menuAction()->setObjectName(QStringLiteral("mnuArquivo"));
+    QAction *novo = item(mnuArquivo, QStringLiteral("mnuArquivoNovo"), QStringLiteral("&Novo"));
+    novo->setShortcut(QKeySequence::New);
+    connect(novo, &QAction::triggered, this, [this] { m_sessao.ComandoNovo(); });
+    QAction *abrir = item(mnuArquivo, QStringLiteral("mnuArquivoAbrir"), QStringLiteral("A&brir"));
+    abrir->setShortcut(QKeySequence::Open);
+    connect(abrir, &QAction::triggered, this, [this] { m_sessao.ComandoAbrir(); });
+    QAction *salvar = item(mnuArquivo, QStringLiteral("mnuArquivoSalvar"), QStringLiteral("&Salvar"));
+    salvar->setShortcut(QKeySequence::Save);
+    connect(salvar, &QAction::triggered, this, [this] { m_sessao.ComandoSalvar(); });
+    QAction *como = item(mnuArquivo, QStringLiteral("mnuArquivoSalvarComo"), QStringLiteral("Salvar &como..."));
+    connect(como, &QAction::triggered, this, [this] { m_sessao.ComandoSalvarComo(); });
+    mnuArquivo->addSeparator()->setObjectName(QStringLiteral("mnuSeparaRecente1"));
+    for (int k = 1; k <= 4; ++k) {
+        QAction *r = item(mnuArquivo, QStringLiteral("mnuArquivoRecente(%1)").arg(k), QString());
+        r->setVisible(false);
+        connect(r, &QAction::triggered, this, [this, k] { m_sessao.ComandoAbrirRecente(k); });
+    }
+    mnuArquivo->addSeparator()->setObjectName(QStringLiteral("mnuSeparaRecente2"));
+    QAction *excluir = item(mnuArquivo, QStringLiteral("mnuArquivoExcluirRecentes"), QStringLiteral("&Excluir Atalhos"));
+    connect(excluir, &QAction::triggered, this, [this] { m_sessao.ComandoExcluirRecentes(); });
+    mnuArquivo->addSeparator()->setObjectName(QStringLiteral("mnuSeparaSair"));
+    QAction *sair = item(mnuArquivo, QStringLiteral("mnuArquivoSair"), QStringLiteral("Sai&r"));
+    connect(sair, &QAction::triggered, this, &QWidget::close);
+}
+
+void frmLumetaEdit::criarMenuEditar()
+{
+    mnuEditar = menuBar()->addMenu(QStringLiteral("&Editar"));
+    mnuEditar->setObjectName(QStringLiteral("mnuEditar"));
+    mnuEditar->menuAction()->setObjectName(QStringLiteral("mnuEditar"));
+    connect(mnuEditar, &QMenu::aboutToShow, this, &frmLumetaEdit::prepararMenuEditar);
+
+    QAction *desfazer = item(mnuEditar, QStringLiteral("mnuEditarDesfazer"), QStringLiteral("&Desfazer"), false);
+    desfazer->setShortcut(QKeySequence::Undo);
+    // Undo of a text box belongs to the text box: the shortcut only reaches
+    // the window when no text box takes it.
+    desfazer->setShortcutContext(Qt::WindowShortcut);
+    connect(desfazer, &QAction::triggered, this, [this] {
+        if (!ehCaixaDeTexto(QApplication::focusWidget()))
+            m_sessao.DesfazerEdicao();
+        prepararMenuEditar();
+    });
+    mnuEditar->addSeparator();
+    // Clipboard, selection, band and item commands arrive with their own parts
+    // of the editor; until then they are shown but cannot be chosen.
+    item(mnuEditar, QStringLiteral("mnuEditarRecortar"), QStringLiteral("&Recortar"), false);
+    item(mnuEditar, QStringLiteral("mnuEditarCopiar"), QStringLiteral("&Copiar"), false);
+    QMenu *como = submenu(mnuEditar, QStringLiteral("mnuEditarCopiarComo"), QStringLiteral("&Copiar como"));
+    connect(como, &QMenu::aboutToShow, this, &frmLumetaEdit::prepararCopiarComo);
+    QAction *comandos = item(como, QStringLiteral("mnuEditarCopiarComoComandos"), QStringLiteral("&Comandos utilizados"));
+    connect(comandos, &QAction::triggered, this, &frmLumetaEdit::copiarComandos);
+    como->addSeparator()->setObjectName(QStringLiteral("mnuSeparaCopiarComo"));
+    QMenu *colar = submenu(mnuEditar, QStringLiteral("mnuEditarColar"), QStringLiteral("Co&lar"));
+    colar->menuAction()->setEnabled(false);
+    item(colar, QStringLiteral("mnuEditarColarBanda"), QStringLiteral("&Bandas"), false);
+    item(colar, QStringLiteral("mnuEditarColarItem"), QStringLiteral("&Itens"), false);
+    item(mnuEditar, QStringLiteral("mnuEditarExcluir"), QStringLiteral("E&xcluir"), false);
+    item(mnuEditar, QStringLiteral("mnuEditarTudo"), QStringLiteral("Selecionar &tudo"), false);
+    mnuEditar->addSeparator();
+
+    QMenu *banda = submenu(mnuEditar, QStringLiteral("mnuEditarBanda"), QStringLiteral("&Banda"));
+    banda->menuAction()->setEnabled(false);
+    item(banda, QStringLiteral("mnuEditarBandaAdicionar"), QStringLiteral("&Adicionar"), false);
+    item(banda, QStringLiteral("mnuEditarBandaInserir"), QStringLiteral("&Inserir"), false);
+    item(banda, QStringLiteral("mnuEditarBandaDuplicar"), QStringLiteral("&Duplicar"), false);
+    item(banda, QStringLiteral("mnuEditarBandaRemover"), QStringLiteral("&Remover"), false);
+    banda->addSeparator();
+    item(banda, QStringLiteral("mnuEditarBandaUp"), QStringLiteral("Mover para &cima"), false);
+    item(banda, QStringLiteral("mnuEditarBandaDown"), QStringLiteral("Mover para &baixo"), false);
+    banda->addSeparator();
+    item(banda, QStringLiteral("mnuEditarBandaAuto"), QStringLiteral("Alt&ura automática"), false);
+    item(banda, QStringLiteral("mnuEditarBandaPagina"), QStringLiteral("&Quebrar a Página"), false);
+    item(banda, QStringLiteral("mnuEditarBandaFonte"), QStringLiteral("&Fonte da banda..."), false);
+    item(banda, QStringLiteral("mnuEditarBandaComentario"), QStringLiteral("&Comentário e Programação"), false);
+
+    QMenu *itemMenu = submenu(mnuEditar, QStringLiteral("mnuEditarItem"), QStringLiteral("&Item"));
+    itemMenu->menuAction()->setEnabled(false);
+    item(itemMenu, QStringLiteral("mnuEditarItemAdicionar"), QStringLiteral("&Adicionar"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemInserir"), QStringLiteral("&Inserir"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemDuplicar"), QStringLiteral("&Duplicar"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemRemover"), QStringLiteral("&Remover"), false);
+    itemMenu->addSeparator();
+    item(itemMenu, QStringLiteral("mnuEditarItemLeft"), QStringLiteral("Mover para a &esquerda"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemRight"), QStringLiteral("Mover para a di&reita"), false);
+    itemMenu->addSeparator();
+    item(itemMenu, QStringLiteral("mnuEditarItemTexto"), QStringLiteral("Mudar para &Texto"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemFigura"), QStringLiteral("Mudar para &Figura"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemComando"), QStringLiteral("Mudar para C&omando"), false);
+    item(itemMenu, QStringLiteral("mnuEditarItemCodigoBarras"), QStringLiteral("Mudar para Código de &Barras"), false);
+    itemMenu->addSeparator();
+    item(itemMenu, QStringLiteral("mnuEditarItemEstilo"), QStringLiteral("E&stilo"), false);
+
+    QMenu *macro = submenu(mnuEditar, QStringLiteral("mnuEditarMacro"), QStringLiteral("Inserir &macro"));
+    macro->menuAction()->setEnabled(false);
+    const auto &macros = TabelaMacros();
+    for (size_t i = 0; i < macros.size(); ++i) {
+        if (i == macros.size() - 1)
+            macro->addSeparator();
+        item(macro, QStringLiteral("mnuEditarMacroItem(%1)").arg(i), QString::fromUtf8(macros[i].legenda), false);
+    }
+    mnuEditar->addSeparator();
+    item(mnuEditar, QStringLiteral("mnuEditarLinguagens"), QStringLiteral("&Linguagens..."), false);
+    item(mnuEditar, QStringLiteral("mnuEditarVisualizar"), QStringLiteral("&Visualizar"), false);
+}
+
+void frmLumetaEdit::criarMenuConfig()
+{
+    mnuConfig = menuBar()->addMenu(QStringLiteral("&Configurar"));
+    mnuConfig->setObjectName(QStringLiteral("mnuConfig"));
+    mnuConfig->menuAction()->setObjectName(QStringLiteral("mnuConfig"));
+    connect(mnuConfig, &QMenu::aboutToShow, this, &frmLumetaEdit::prepararMenuConfig);
+
+    auto opcao = [this](const char *nome, const QString &legenda, auto acao) {
+        QAction *a = item(mnuConfig, QString::fromLatin1(nome), legenda);
+        a->setCheckable(true);
+        connect(a, &QAction::triggered, this, [this, acao] {
+            (m_sessao.*acao)();
+            atualizarOpcoes();
+        });
+        return a;
+    };
+    opcao("mnuConfigPaisagem", QStringLiteral("Imprimir no modo &Paisagem"), &SessaoEdicao::AlternarPaisagem);
+    opcao("mnuConfigImprimir", QStringLiteral("&Imprimir sem Visualizar"), &SessaoEdicao::AlternarImprimir);
+    opcao("mnuConfigVisivel", QStringLiteral("Manter o relatório &visível"), &SessaoEdicao::AlternarVisivel);
+    opcao("mnuConfigTemCapa", QStringLiteral("Primeira página sem &cabeçalho e rodapé"), &SessaoEdicao::AlternarTemCapa);
+    opcao("mnuConfigEnviarEmail", QStringLiteral("Enviar por e-mail &sem Visualizar"), &SessaoEdicao::AlternarEnviarEmail);
+    opcao("mnuConfigQuebraPagina", QStringLiteral("&Finalizar com quebra de página"),
+          &SessaoEdicao::AlternarQuebraPaginaFinal);
+    mnuConfig->addSeparator();
+
+    QMenu *email = submenu(mnuConfig, QStringLiteral("mnuConfigEmail"), QStringLiteral("&Tipo de e-mail"));
+    m_grupoEmail = new QActionGroup(this);
+    const struct {
+        const char *nome;
+        const char *legenda;
+        int tipo;
+    } tipos[] = {{"mnuConfigEmailJPG", "&JPG", 1},
+                 {"mnuConfigEmailEMF", "&EMF", 2},
+                 {"mnuConfigEmailGIF", "&GIF", 3},
+                 {"mnuConfigEmailPDF", "&PDF", 4},
+                 {"mnuConfigEmailDOC", "&DOC", 5}};
+    for (const auto &t : tipos) {
+        QAction *a = item(email, QString::fromLatin1(t.nome), QString::fromLatin1(t.legenda));
+        a->setCheckable(true);
+        a->setData(t.tipo);
+        m_grupoEmail->addAction(a);
+        const int tipo = t.tipo;
+        connect(a, &QAction::triggered, this, [this, tipo] {
+            m_sessao.DefinirTipoEmail(tipo);
+            atualizarOpcoes();
+        });
+    }
+    email->addSeparator();
+    // The e-mail text, JPG quality, printer and margins dialogs come with
+    // their own parts of the editor.
+    item(email, QStringLiteral("mnuConfigEmailTexto"), QStringLiteral("Texto &do e-mail"), false);
+    item(mnuConfig, QStringLiteral("mnuConfigQualidadeJPG"), QStringLiteral("Qualidade do &JPG no e-mail"), false);
+    item(mnuConfig, QStringLiteral("mnuConfigNomeImpressora"), QStringLiteral("&Nome da impressora"), false);
+    item(mnuConfig, QStringLiteral("mnuConfigMargens"), QStringLiteral("&Margens do papel"), false);
+    mnuConfig->addSeparator();
+
+    QMenu *medida = submenu(mnuConfig, QStringLiteral("mnuConfigMedida"), QStringLiteral("Unidade de medida"));
+    m_grupoMedida = new QActionGroup(this);
+    const struct {
+        const char *nome;
+        const char *legenda;
+        int codigo;
+    } unidades[] = {{"mnuConfigMedidaPixels", "&Pixels", UnidadePixels},
+                    {"mnuConfigMedidaMilimetros", "&Milimetros", UnidadeMilimetros},
+                    {"mnuConfigMedidaCentimetros", "&Centimetros", UnidadeCentimetros},
+                    {"mnuConfigMedidaPolegadas", "P&olegadas", UnidadePolegadas}};
+    for (const auto &u : unidades) {
+        QAction *a = item(medida, QString::fromLatin1(u.nome), QString::fromLatin1(u.legenda));
+        a->setCheckable(true);
+        a->setData(u.codigo);
+        m_grupoMedida->addAction(a);
+        const int codigo = u.codigo;
+        connect(a, &QAction::triggered, this, [this, codigo] { m_sessao.DefinirUnidade(codigo); });
+    }
+    QAction *resultado = item(mnuConfig, QStringLiteral("mnuConfigResultado"), QStringLiteral("&Exibir o arquivo texto"));
+    resultado->setCheckable(true);
+    connect(resultado, &QAction::triggered, this, [this] { m_sessao.AlternarResultado(); });
+    QAction *fontes = item(mnuConfig, QStringLiteral("mnuConfigFontesImpressora"),
+                           QStringLiteral("E&xibir apenas fontes de impressão"));
+    fontes->setCheckable(true);
+    connect(fontes, &QAction::triggered, this, [this] {
+        m_sessao.AlternarFontesImpressora();
+        atualizarOpcoes();
+    });
+    QAction *fonte = item(mnuConfig, QStringLiteral("mnuConfigFonte"), QStringLiteral("F&onte padrão do Item"));
+    connect(fonte, &QAction::triggered, this, &frmLumetaEdit::escolherFontePadrao);
+    mnuConfig->addSeparator();
+
+    QMenu *cpy = submenu(mnuConfig, QStringLiteral("mnuConfigCpy"), QStringLiteral("Gerar CP&Y ao salvar"));
+    m_grupoCpy = new QActionGroup(this);
+    QAction *nenhum = item(cpy, QStringLiteral("mnuConfigCpyNenhum"), QStringLiteral("&Nenhum"));
+    nenhum->setCheckable(true);
+    m_grupoCpy->addAction(nenhum);
+    connect(nenhum, &QAction::triggered, this, [this] { m_sessao.DefinirCPY(QString()); });
+    cpy->addSeparator()->setObjectName(QStringLiteral("mnuSeparaCpy"));
+}
+
+void frmLumetaEdit::criarMenuAjuda()
+{
+    mnuAjuda = menuBar()->addMenu(QStringLiteral("Aj&uda"));
+    mnuAjuda->setObjectName(QStringLiteral("mnuAjuda"));
+    mnuAjuda->menuAction()->setObjectName(QStringLiteral("mnuAjuda"));
+    connect(item(mnuAjuda, QStringLiteral("mnuAjudaConteudo"), QStringLiteral("&Conteúdo")), &QAction::triggered, this,
+            [this] { abrirAjuda(PastaPrograma() + QStringLiteral("Leia-me.doc"), true); });
+    connect(item(mnuAjuda, QStringLiteral("mnuAjudaTutorial"), QStringLiteral("&Tutorial")), &QAction::triggered, this,
+            [this] { abrirAjuda(PastaPrograma() + QStringLiteral("Tutorial LumetaEdit.doc"), true); });
+    mnuAjuda->addSeparator();
+    connect(item(mnuAjuda, QStringLiteral("mnuAjudaExemplo"), QStringLiteral("&Exemplos")), &QAction::triggered, this,
+            [this] { abrirAjuda(EnderecoExemplos, false); });
+    connect(item(mnuAjuda, QStringLiteral("mnuAjudaAtualizar"), QStringLiteral("&Atualizar")), &QAction::triggered, this,
+            [this] { abrirAjuda(EnderecoAtualizar, false); });
+    mnuAjuda->addSeparator();
+    connect(item(mnuAjuda, QStringLiteral("mnuAjudaAutor"), QStringLiteral("&Sobre...")), &QAction::triggered, this,
+            [this] {
+                Autor autor(this);
+                autor.exec();
+            });
+}
+
+// --- widgets ------------------------------------------------------------------------
+
+void frmLumetaEdit::criarJanela()
+{
+    auto *central = new QWidget(this);
+    central->setObjectName(QStringLiteral("central"));
+    auto *principal = new QVBoxLayout(central);
+    principal->setContentsMargins(0, 0, 0, 0);
+    principal->setSpacing(0);
+
+    // Toolbar.
+    auto *barra = new QWidget(central);
+    barra->setObjectName(QStringLiteral("picBarra"));
+    barra->setAutoFillBackground(true);
+    auto *lBarra = new QHBoxLayout(barra);
+    lBarra->setContentsMargins(6, 3, 6, 3);
+    lBarra->setSpacing(4);
+    const qreal escala = devicePixelRatioF();
+    btnMagic = new XPButtonCtl(barra);
+    btnMagic->setObjectName(QStringLiteral("btnMagic"));
+    btnMagic->setCheckBoxBehaviour(true);
+    btnMagic->setPictureNormal(DesenharVarinha(20, escala));
+    btnMagic->setToolTip(QStringLiteral("Criar itens com um clique"));
+    btnMagic->setFixedSize(30, 28);
+    btnMagic->ShowFocusRect = false;
+    btnMagic->setFocusPolicy(Qt::TabFocus);
+    connect(btnMagic, &XPButtonCtl::ValueChanged, this, [this](bool v) { m_sessao.Config.MagicItem = v; });
+    lBarra->addWidget(btnMagic);
+    lBarra->addStretch(1);
+    imgResultado = new ImagemClicavel(barra);
+    imgResultado->setObjectName(QStringLiteral("imgResultado"));
+    imgResultado->setPixmap(DesenharArquivoTexto(20, escala));
+    imgResultado->setFixedSize(28, 28);
+    imgResultado->setAlignment(Qt::AlignCenter);
+    imgResultado->setCursor(Qt::PointingHandCursor);
+    imgResultado->setToolTip(QStringLiteral("Exibir o arquivo texto"));
+    connect(imgResultado, &ImagemClicavel::Click, this, [this] { m_sessao.AlternarResultado(); });
+    lBarra->addWidget(imgResultado);
+    principal->addWidget(barra);
+    auto *linha = new QFrame(central);
+    linha->setFrameShape(QFrame::HLine);
+    linha->setFrameShadow(QFrame::Sunken);
+    principal->addWidget(linha);
+
+    // Canvas area: the tab above the viewport and its scroll bars.
+    divisor = new QSplitter(Qt::Horizontal, central);
+    divisor->setObjectName(QStringLiteral("divisor"));
+    divisor->setChildrenCollapsible(false);
+    divisor->setHandleWidth(5);
+    areaCanvas = new QWidget(divisor);
+    areaCanvas->setObjectName(QStringLiteral("areaCanvas"));
+    auto *lCanvas = new QGridLayout(areaCanvas);
+    lCanvas->setContentsMargins(4, 4, 0, 4);
+    lCanvas->setSpacing(0);
+    auto *linhaTab = new QHBoxLayout;
+    linhaTab->setContentsMargins(0, 0, 0, 0);
+    tabPagina = new TabCtl(areaCanvas);
+    tabPagina->setObjectName(QStringLiteral("tabPagina"));
+    tabPagina->setText(QStringLiteral("Página"));
+    tabPagina->setSelected(true);
+    tabPagina->setFixedSize(tabPagina->sizeHint().width() + 16, 24);
+    linhaTab->addWidget(tabPagina);
+    linhaTab->addStretch(1);
+    lCanvas->addLayout(linhaTab, 0, 0, 1, 2);
+    picContainer = new PicContainer(areaCanvas);
+    picContainer->setMinimumSize(64, 64);
+    picPagina = new PicPagina(m_sessao, picContainer);
+    hsbPagina = new QScrollBar(Qt::Horizontal, areaCanvas);
+    hsbPagina->setObjectName(QStringLiteral("hsbPagina"));
+    vsbPagina = new QScrollBar(Qt::Vertical, areaCanvas);
+    vsbPagina->setObjectName(QStringLiteral("vsbPagina"));
+    hsbPagina->setSingleStep(PassoRolagem);
+    vsbPagina->setSingleStep(PassoRolagem);
+    auto *moldura = new QFrame(areaCanvas);
+    moldura->setObjectName(QStringLiteral("molduraCanvas"));
+    moldura->setFrameShape(QFrame::StyledPanel);
+    moldura->setFrameShadow(QFrame::Sunken);
+    auto *lMoldura = new QGridLayout(moldura);
+    lMoldura->setContentsMargins(1, 1, 1, 1);
+    lMoldura->setSpacing(0);
+    picContainer->setParent(moldura);
+    lMoldura->addWidget(picContainer, 0, 0);
+    vsbPagina->setParent(moldura);
+    hsbPagina->setParent(moldura);
+    lMoldura->addWidget(vsbPagina, 0, 1);
+    lMoldura->addWidget(hsbPagina, 1, 0);
+    lCanvas->addWidget(moldura, 1, 0, 1, 2);
+    lCanvas->setRowStretch(1, 1);
+    // Every change of a bar, also while its thumb is dragged, moves the page.
+    connect(hsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(-v, picPagina->y()); });
+    connect(vsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(picPagina->x(), -v); });
+    connect(picContainer, &PicContainer::Redimensionado, this, &frmLumetaEdit::AtualizarRolagem);
+
+    // Result pane, its caption level with the tab so both panes start at
+    // the same height.
+    colunaResultado = new QWidget(divisor);
+    colunaResultado->setObjectName(QStringLiteral("colunaResultado"));
+    auto *lResultado = new QVBoxLayout(colunaResultado);
+    lResultado->setContentsMargins(0, 4, 4, 4);
+    lResultado->setSpacing(0);
+    auto *lblResultado = new QLabel(QStringLiteral("Arquivo texto"), colunaResultado);
+    lblResultado->setObjectName(QStringLiteral("lblResultado"));
+    lblResultado->setFixedHeight(24);
+    lblResultado->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    lblResultado->setContentsMargins(4, 0, 0, 4);
+    lResultado->addWidget(lblResultado);
+    rtbResultado = new QTextEdit(colunaResultado);
+    rtbResultado->setObjectName(QStringLiteral("rtbResultado"));
+    rtbResultado->setReadOnly(true);
+    rtbResultado->setAcceptRichText(false);
+    rtbResultado->setLineWrapMode(QTextEdit::NoWrap);
+    rtbResultado->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    QFont mono(QStringLiteral("Courier New"));
+    mono.setStyleHint(QFont::TypeWriter);
+    mono.setPointSize(9);
+    rtbResultado->setFont(mono);
+    rtbResultado->setContextMenuPolicy(Qt::PreventContextMenu);
+    rtbResultado->viewport()->installEventFilter(this);
+    lResultado->addWidget(rtbResultado, 1);
+    colunaResultado->setMinimumWidth(160);
+    divisor->addWidget(areaCanvas);
+    divisor->addWidget(colunaResultado);
+    divisor->setStretchFactor(0, 1);
+    divisor->setStretchFactor(1, 0);
+    divisor->setSizes({800, 300});
+    principal->addWidget(divisor, 1);
+
+    mnuPopup = new QMenu(this);
+    mnuPopup->setObjectName(QStringLiteral("mnuPopup"));
+    QAction *copiar = item(mnuPopup, QStringLiteral("mnuPopupCopiar"), QStringLiteral("&Copiar"));
+    connect(copiar, &QAction::triggered, rtbResultado, &QTextEdit::copy);
+    QAction *tudo = item(mnuPopup, QStringLiteral("mnuPopupSelecionar"), QStringLiteral("&Selecionar Tudo"));
+    connect(tudo, &QAction::triggered, rtbResultado, &QTextEdit::selectAll);
+    connect(mnuPopup, &QMenu::aboutToShow, this,
+            [this, copiar] { copiar->setEnabled(rtbResultado->textCursor().hasSelection()); });
+
+    setCentralWidget(central);
+    setTabOrder(btnMagic, picPagina);
+}
+
+bool frmLumetaEdit::eventFilter(QObject *obj, QEvent *e)
+{
+    if (rtbResultado && obj == rtbResultado->viewport() && e->type() == QEvent::MouseButtonRelease
+        && static_cast<QMouseEvent *>(e)->button() == Qt::RightButton) {
+        mnuPopup->popup(static_cast<QMouseEvent *>(e)->globalPosition().toPoint());
+        return true;
+    }
+    return QMainWindow::eventFilter(obj, e);
+}
+
+// --- the session's hooks -------------------------------------------------------------
+
+void frmLumetaEdit::ligarSessao()
+{
+    GanchosSessao &g = m_sessao.Ganchos;
+    g.Pintar = [this](const ResultadoRepintura &) {
+        if (picPagina->size() != m_sessao.Canvas.Tamanho) {
+            picPagina->resize(m_sessao.Canvas.Tamanho);
+            AtualizarRolagem();
+        }
+        picPagina->update();
+    };
+    g.MostrarResultado = [this](const QString &t) { mostrarTextoResultado(t); };
+    g.SelecionarItem = [this] { MostrarSelecao(); };
+    g.RolagemInicial = [this] {
+        hsbPagina->setValue(0);
+        vsbPagina->setValue(0);
+    };
+    g.Titulo = [this] { atualizarTitulo(); };
+    g.ArquivosRecentes = [this] { atualizarRecentes(); };
+    g.ConfiguracoesLidas = [this] { aplicarConfiguracoes(); };
+    g.UnidadeAlterada = [this] { atualizarUnidade(); };
+    g.ResultadoAlternado = [this] { atualizarResultado(); };
+    g.OpcoesAlteradas = [this] { atualizarOpcoes(); };
+    g.JanelaHabilitada = [this] { return isEnabled(); };
+    g.Encerrar = [this] { encerrar(); };
+    // The canvas and the result pane show the document the session already holds.
+    picPagina->resize(m_sessao.Canvas.Tamanho);
+    mostrarTextoResultado(m_sessao.TextoResultado);
+    atualizarUnidade();
+    atualizarResultado();
+    atualizarOpcoes();
+}
+
+bool frmLumetaEdit::Iniciar(const QStringList &argumentos)
+{
+    const QScreen *tela = screen() ? screen() : QGuiApplication::primaryScreen();
+    m_sessao.Canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
+    picPagina->resize(m_sessao.Canvas.Tamanho);
+    AtualizarRolagem();
+    if (!m_sessao.Iniciar(argumentos, PastaPrograma(), QCoreApplication::applicationFilePath())) {
+        m_encerrado = true;
+        return false;
+    }
+    m_roda.InstalarRoda(this, false);
+    return true;
+}
+
+void frmLumetaEdit::aplicarConfiguracoes()
+{
+    btnMagic->setValue(m_sessao.Config.MagicItem);
+    atualizarOpcoes();
+}
+
+void frmLumetaEdit::atualizarTitulo()
+{
+    setWindowTitle(m_sessao.Titulo());
+}
+
+void frmLumetaEdit::atualizarRecentes()
+{
+    const QStringList &lista = m_sessao.Config.ArquivosRecentes;
+    for (int k = 1; k <= 4; ++k) {
+        QAction *a = Acao(QStringLiteral("mnuArquivoRecente(%1)").arg(k));
+        if (k <= lista.size()) {
+            a->setText(escaparMenu(NomeDoArquivo(lista[k - 1])));
+            a->setToolTip(lista[k - 1]);
+            a->setVisible(true);
+        } else {
+            a->setVisible(false);
+        }
+    }
+    const bool algum = !lista.isEmpty();
+    for (QAction *a : mnuArquivo->actions())
+        if (a->objectName() == QLatin1String("mnuSeparaRecente2"))
+            a->setVisible(algum);
+    Acao(QStringLiteral("mnuArquivoExcluirRecentes"))->setVisible(algum);
+}
+
+void frmLumetaEdit::atualizarUnidade()
+{
+    const int codigo = m_sessao.Config.UnidadeMedida;
+    bool algum = false;
+    for (QAction *a : m_grupoMedida->actions()) {
+        a->setChecked(a->data().toInt() == codigo);
+        algum |= a->isChecked();
+    }
+    // Any other code behaves as pixels.
+    if (!algum)
+        Acao(QStringLiteral("mnuConfigMedidaPixels"))->setChecked(true);
+}
+
+void frmLumetaEdit::atualizarResultado()
+{
+    const bool exibir = m_sessao.Config.ExibirResultado;
+    Acao(QStringLiteral("mnuConfigResultado"))->setChecked(exibir);
+    if (colunaResultado->isVisibleTo(divisor) != exibir) {
+        const QList<int> tamanhos = divisor->sizes();
+        rtbResultado->setVisible(exibir);
+        colunaResultado->setVisible(exibir);
+        if (exibir && tamanhos.size() == 2) {
+            const int total = tamanhos[0] + tamanhos[1];
+            const int pane = std::clamp(total * 3 / 10, 220, 360);
+            divisor->setSizes({total - pane, pane});
+        }
+    }
+}
+
+void frmLumetaEdit::atualizarOpcoes()
+{
+    const LayoutDocumento &d = m_sessao.Documento;
+    Acao(QStringLiteral("mnuConfigPaisagem"))->setChecked(d.Paisagem);
+    Acao(QStringLiteral("mnuConfigImprimir"))->setChecked(d.Imprimir);
+    Acao(QStringLiteral("mnuConfigVisivel"))->setChecked(d.Visivel);
+    Acao(QStringLiteral("mnuConfigTemCapa"))->setChecked(d.TemCapa);
+    Acao(QStringLiteral("mnuConfigEnviarEmail"))->setChecked(d.EnviarEmail);
+    Acao(QStringLiteral("mnuConfigQuebraPagina"))->setChecked(d.QuebraPaginaFinal);
+    for (QAction *a : m_grupoEmail->actions())
+        a->setChecked(a->data().toInt() == d.TipoEmail);
+    Acao(QStringLiteral("mnuConfigFontesImpressora"))->setChecked(m_sessao.Config.FontesImpressora);
+    Acao(QStringLiteral("mnuConfigResultado"))->setChecked(m_sessao.Config.ExibirResultado);
+}
+
+void frmLumetaEdit::mostrarTextoResultado(const QString &texto)
+{
+    // The pane keeps its place in the text while the user edits the layout.
+    const int v = rtbResultado->verticalScrollBar()->value();
+    const int h = rtbResultado->horizontalScrollBar()->value();
+    QString t = texto;
+    t.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    rtbResultado->setPlainText(t);
+    rtbResultado->verticalScrollBar()->setValue(v);
+    rtbResultado->horizontalScrollBar()->setValue(h);
+}
+
+void frmLumetaEdit::AtualizarRolagem()
+{
+    const QPoint maximo = MaximoRolagem(m_sessao.Canvas.Tamanho, picContainer->size());
+    hsbPagina->setMaximum(maximo.x());
+    vsbPagina->setMaximum(maximo.y());
+    hsbPagina->setPageStep(std::max(1, picContainer->width()));
+    vsbPagina->setPageStep(std::max(1, picContainer->height()));
+    picPagina->move(-hsbPagina->value(), -vsbPagina->value());
+}
+
+void frmLumetaEdit::RolarCanvas(DirecaoRolagem direcao)
+{
+    vsbPagina->triggerAction(direcao == RolarAcima ? QAbstractSlider::SliderSingleStepSub
+                                                   : QAbstractSlider::SliderSingleStepAdd);
+}
+
+void frmLumetaEdit::MostrarSelecao()
+{
+    const QPoint atual(hsbPagina->value(), vsbPagina->value());
+    const QPoint novo = RolarParaSelecao(m_sessao.Documento, m_sessao.BandaSelecionada, m_sessao.ItemSelecionado,
+                                         atual, picContainer->size(), QPoint(hsbPagina->maximum(), vsbPagina->maximum()));
+    if (novo.x() != atual.x())
+        hsbPagina->setValue(novo.x());
+    if (novo.y() != atual.y())
+        vsbPagina->setValue(novo.y());
+}
+
+// --- menus that are prepared when they open ------------------------------------------
+
+void frmLumetaEdit::prepararMenuEditar()
+{
+    Acao(QStringLiteral("mnuEditarDesfazer"))
+        ->setEnabled(!ehCaixaDeTexto(QApplication::focusWidget()) && m_sessao.PodeDesfazer());
+}
+
+void frmLumetaEdit::prepararMenuConfig()
+{
+    atualizarOpcoes();
+    atualizarUnidade();
+    // The languages may have changed on disk since the menu last opened.
+    QMenu *cpy = findChild<QMenu *>(QStringLiteral("mnuConfigCpy"));
+    for (QAction *a : m_cpyTipos) {
+        m_grupoCpy->removeAction(a);
+        cpy->removeAction(a);
+        a->deleteLater();
+    }
+    m_cpyTipos.clear();
+    const QString atual = m_sessao.Config.CPY;
+    const QStringList linguagens = ListarLinguagens();
+    bool marcado = false;
+    for (qsizetype k = 0; k < linguagens.size(); ++k) {
+        QAction *a = item(cpy, QStringLiteral("mnuConfigCpyTipo(%1)").arg(k + 1), escaparMenu(linguagens[k]));
+        a->setCheckable(true);
+        m_grupoCpy->addAction(a);
+        const QString nome = linguagens[k];
+        connect(a, &QAction::triggered, this, [this, nome] { m_sessao.DefinirCPY(nome); });
+        if (!atual.isEmpty() && !marcado && nome.compare(atual, Qt::CaseInsensitive) == 0) {
+            a->setChecked(true);
+            marcado = true;
+        }
+        m_cpyTipos << a;
+    }
+    QAction *nenhum = Acao(QStringLiteral("mnuConfigCpyNenhum"));
+    if (atual.isEmpty())
+        nenhum->setChecked(true);
+    else if (!marcado && m_grupoCpy->checkedAction())
+        m_grupoCpy->checkedAction()->setChecked(false);
+}
+
+void frmLumetaEdit::prepararCopiarComo()
+{
+    QMenu *como = findChild<QMenu *>(QStringLiteral("mnuEditarCopiarComo"));
+    for (QAction *a : m_copiarComoTipos) {
+        como->removeAction(a);
+        a->deleteLater();
+    }
+    m_copiarComoTipos.clear();
+    const QStringList linguagens = ListarLinguagens();
+    for (qsizetype k = 0; k < linguagens.size(); ++k) {
+        QAction *a = item(como, QStringLiteral("mnuEditarCopiarComoTipo(%1)").arg(k + 1), escaparMenu(linguagens[k]));
+        const QString nome = linguagens[k];
+        connect(a, &QAction::triggered, this, [this, nome] { copiarComo(nome); });
+        m_copiarComoTipos << a;
+    }
+}
+
+void frmLumetaEdit::copiarComo(const QString &linguagem)
+{
+    LinguagemDef def;
+    def.CobolString = m_sessao.Config.NoCobolUsarString;
+    if (!LerLinguagem(linguagem, def, m_sessao.Ui))
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QString codigo;
+    CopiarComo(m_sessao.Documento, def, QString(), m_sessao.Ui, &codigo);
+    QClipboard *c = QGuiApplication::clipboard();
+    c->clear();
+    c->setText(codigo);
+    QApplication::restoreOverrideCursor();
+}
+
+void frmLumetaEdit::copiarComandos()
+{
+    QClipboard *c = QGuiApplication::clipboard();
+    c->clear();
+    c->setText(ListaComandosUtilizados(m_sessao.Documento));
+}
+
+void frmLumetaEdit::escolherFontePadrao()
+{
+    const FonteItem &f = m_sessao.FontePadrao;
+    FonteDialogo d{f.Nome, double(f.Tamanho), f.Negrito, f.Italico, f.Sublinhado, f.Tachado};
+    if (!CommonDialogCls::GetFont(d, this))
+        return;
+    m_sessao.DefinirFontePadrao(d.Nome, d.Tamanho, d.Negrito, d.Italico, d.Sublinhado, d.Tachado);
+}
+
+void frmLumetaEdit::abrirAjuda(const QString &alvo, bool arquivo)
+{
+    QDesktopServices::openUrl(arquivo ? QUrl::fromLocalFile(alvo) : QUrl(alvo));
+}
+
+// --- shut-down ---------------------------------------------------------------------
+
+void frmLumetaEdit::encerrar()
+{
+    m_encerrado = true;
+    if (AoEncerrar)
+        AoEncerrar();
+}
+
+void frmLumetaEdit::closeEvent(QCloseEvent *e)
+{
+    if (m_encerrado) {
+        e->accept();
+        return;
+    }
+    if (!m_sessao.ConfirmarSaida()) {
+        e->ignore();
+        return;
+    }
+    m_sessao.Config.MagicItem = btnMagic->Value();
+    m_sessao.FinalizarSaida();
+    m_roda.RemoverRoda();
+    e->accept();
+}
+
+}  // namespace lumeta

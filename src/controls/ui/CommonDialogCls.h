@@ -1,0 +1,50 @@
+#pragma once
+// The one place where the editor opens the standard file, colour and font
+// choosers. Filters come as "Description|pattern|Description|pattern"; a
+// cancelled dialog gives an empty path, -1 for a colour, or the font
+// unchanged.
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace lumeta {
+
+struct FonteDialogo {
+    QString Nome;
+    double Tamanho = 10;
+    bool Negrito = false;
+    bool Italico = false;
+    bool Sublinhado = false;
+    bool Tachado = false;
+
+    bool operator==(const FonteDialogo &) const = default;
+};
+
+class CommonDialogCls {
+public:
+    // The filter list in the form the Qt file dialog reads, first entry first:
+    // "Lumeta Layout (*.lmt)|*.lmt" gives "Lumeta Layout (*.lmt) (*.lmt)"; the
+    // dialog hides the trailing pattern list, so the description reads as given.
+    static QStringList FiltrosQt(const QString &filtro);
+
+    // Save: the read-only box is not offered, an existing file is confirmed
+    // before it is overwritten, the folder must exist.
+    static QString GetSaveName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
+                               const QString &extensaoPadrao, QWidget *dono);
+    // Open: the file must exist.
+    static QString GetOpenName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
+                               QWidget *dono);
+    // 0x00BBGGRR, or -1 when cancelled. The full dialog with the 16 custom
+    // colour slots is shown, starting from `corInicial` (same encoding).
+    static int PickColor(int corInicial, QWidget *dono);
+    // False when cancelled (`fonte` then unchanged). Bold is weight 700.
+    static bool GetFont(FonteDialogo &fonte, QWidget *dono);
+
+    static int CorParaBGR(const QColor &c) { return c.red() | (c.green() << 8) | (c.blue() << 16); }
+    static QColor BGRParaCor(int bgr) { return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF); }
+};
+
+}  // namespace lumeta

@@ -1,0 +1,26 @@
+#pragma once
+// The user as the editor's windows meet him: message boxes, questions, the
+// file choosers and input boxes, all with the owner window given here.
+
+#include "document/InterfaceUsuario.h"
+
+class QWidget;
+
+namespace lumeta {
+
+class InterfaceUsuarioQt : public InterfaceUsuario {
+public:
+    explicit InterfaceUsuarioQt(QWidget *dono = nullptr) : m_dono(dono) {}
+    void setDono(QWidget *dono) { m_dono = dono; }
+
+    void Mensagem(const QString &texto, const QString &titulo, Icone icone) override;
+    Resposta Perguntar(const QString &texto, const QString &titulo, Botoes botoes, Icone icone) override;
+    QString ArquivoSalvar(const OpcoesArquivo &opcoes) override;
+    QString ArquivoAbrir(const OpcoesArquivo &opcoes) override;
+    std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) override;
+
+private:
+    QWidget *m_dono;
+};
+
+}  // namespace lumeta

@@ -1,0 +1,468 @@
+#include "app/gui/Autor.h"
+#include "app/gui/CanvasJanela.h"
+#include "app/gui/frmLumetaEdit.h"
+#include "controls/ui/TabCtl.h"
+#include "controls/ui/XPButtonCtl.h"
+#include "document/ArquivoLMT.h"
+#include "output/Linguagem.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+#include "support/TestSupport.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QSettings>
+#include <QSplitter>
+#include <QTextEdit>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+using lumeta::teste::ConfigTemporaria;
+using lumeta::teste::InterfaceRoteirizada;
+
+namespace {
+
+struct Janela {
+    ConfigTemporaria cfg;
+    InterfaceRoteirizada ui;
+    frmLumetaEdit janela{&ui};
+    int encerramentos = 0;
+
+    explicit Janela(const QStringList &args = {})
+    {
+        janela.AoEncerrar = [this] { ++encerramentos; };
+        iniciado = janela.Iniciar(args);
+        janela.resize(1000, 700);
+        janela.show();
+        QApplication::processEvents();
+    }
+    bool iniciado = false;
+    QAction *acao(const char *nome) { return janela.Acao(QString::fromLatin1(nome)); }
+    void editar()
+    {
+        janela.Sessao().AddBanda(0, false, 0, 0);
+        janela.Sessao().ConcluirEdicao();
+    }
+};
+
+struct EntradaMenu {
+    const char *nome;
+    const char *legenda;
+    bool habilitado;
+};
+
+// The actions of a menu in order, separators left out.
+QStringList NomesDoMenu(QMenu *m)
+{
+    QStringList r;
+    for (QAction *a : m->actions())
+        if (!a->isSeparator())
+            r << a->objectName();
+    return r;
+}
+
+}  // namespace
+
+TEST(frmLumetaEdit, ArvoreDeMenusNomesLegendasEEstados)
+{
+    Janela j;
+    ASSERT_TRUE(j.iniciado);
+    QStringList topo;
+    for (QAction *a : j.janela.menuBar()->actions())
+        topo << a->objectName() + QLatin1Char('=') + a->text();
+    EXPECT_EQ(topo, QStringList({"mnuArquivo=&Arquivo", "mnuEditar=&Editar", "mnuConfig=&Configurar", "mnuAjuda=Aj&uda"}));
+
+    const EntradaMenu entradas[] = {
+        {"mnuArquivoNovo", "&Novo", true},
+        {"mnuArquivoAbrir", "A&brir", true},
+        {"mnuArquivoSalvar", "&Salvar", true},
+        {"mnuArquivoSalvarComo", "Salvar &como...", true},
+        {"mnuArquivoSair", "Sai&r", true},
+        {"mnuEditarDesfazer", "&Desfazer", false},
+        {"mnuEditarRecortar", "&Recortar", false},
+        {"mnuEditarCopiar", "&Copiar", false},
+        {"mnuEditarCopiarComo", "&Copiar como", true},
+        {"mnuEditarCopiarComoComandos", "&Comandos utilizados", true},
+        {"mnuEditarColar", "Co&lar", false},
+        {"mnuEditarColarBanda", "&Bandas", false},
+        {"mnuEditarColarItem", "&Itens", false},
+        {"mnuEditarExcluir", "E&xcluir", false},
+        {"mnuEditarTudo", "Selecionar &tudo", false},
+        {"mnuEditarBanda", "&Banda", false},
+        {"mnuEditarBandaAuto", "Alt&ura automática", false},
+        {"mnuEditarBandaPagina", "&Quebrar a Página", false},
+        {"mnuEditarBandaComentario", "&Comentário e Programação", false},
+        {"mnuEditarItem", "&Item", false},
+        {"mnuEditarItemCodigoBarras", "Mudar para Código de &Barras", false},
+        {"mnuEditarMacro", "Inserir &macro", false},
+        {"mnuEditarMacroItem(0)", "Página atual", false},
+        {"mnuEditarMacroItem(12)", "Variável de cabeçalho e rodapé", false},
+        {"mnuEditarLinguagens", "&Linguagens...", false},
+        {"mnuEditarVisualizar", "&Visualizar", false},
+        {"mnuConfigPaisagem", "Imprimir no modo &Paisagem", true},
+        {"mnuConfigImprimir", "&Imprimir sem Visualizar", true},
+        {"mnuConfigVisivel", "Manter o relatório &visível", true},
+        {"mnuConfigTemCapa", "Primeira página sem &cabeçalho e rodapé", true},
+        {"mnuConfigEnviarEmail", "Enviar por e-mail &sem Visualizar", true},
+        {"mnuConfigQuebraPagina", "&Finalizar com quebra de página", true},
+        {"mnuConfigEmail", "&Tipo de e-mail", true},
+        {"mnuConfigEmailJPG", "&JPG", true},
+        {"mnuConfigEmailEMF", "&EMF", true},
+        {"mnuConfigEmailGIF", "&GIF", true},
+        {"mnuConfigEmailPDF", "&PDF", true},
+        {"mnuConfigEmailDOC", "&DOC", true},
+        {"mnuConfigEmailTexto", "Texto &do e-mail", false},
+        {"mnuConfigQualidadeJPG", "Qualidade do &JPG no e-mail", false},
+        {"mnuConfigNomeImpressora", "&Nome da impressora", false},
+        {"mnuConfigMargens", "&Margens do papel", false},
+        {"mnuConfigMedida", "Unidade de medida", true},
+        {"mnuConfigMedidaPixels", "&Pixels", true},
+        {"mnuConfigMedidaMilimetros", "&Milimetros", true},
+        {"mnuConfigMedidaCentimetros", "&Centimetros", true},
+        {"mnuConfigMedidaPolegadas", "P&olegadas", true},
+        {"mnuConfigResultado", "&Exibir o arquivo texto", true},
+        {"mnuConfigFontesImpressora", "E&xibir apenas fontes de impressão", true},
+        {"mnuConfigFonte", "F&onte padrão do Item", true},
+        {"mnuConfigCpy", "Gerar CP&Y ao salvar", true},
+        {"mnuConfigCpyNenhum", "&Nenhum", true},
+        {"mnuAjudaConteudo", "&Conteúdo", true},
+        {"mnuAjudaTutorial", "&Tutorial", true},
+        {"mnuAjudaExemplo", "&Exemplos", true},
+        {"mnuAjudaAtualizar", "&Atualizar", true},
+        {"mnuAjudaAutor", "&Sobre...", true},
+    };
+    for (const EntradaMenu &e : entradas) {
+        QAction *a = j.acao(e.nome);
+        ASSERT_NE(a, nullptr) << e.nome;
+        EXPECT_EQ(a->text(), QString::fromUtf8(e.legenda)) << e.nome;
+        EXPECT_EQ(a->isEnabled(), e.habilitado) << e.nome;
+    }
+    EXPECT_EQ(NomesDoMenu(j.janela.mnuArquivo),
+              QStringList({"mnuArquivoNovo", "mnuArquivoAbrir", "mnuArquivoSalvar", "mnuArquivoSalvarComo",
+                           "mnuArquivoRecente(1)", "mnuArquivoRecente(2)", "mnuArquivoRecente(3)",
+                           "mnuArquivoRecente(4)", "mnuArquivoExcluirRecentes", "mnuArquivoSair"}));
+    EXPECT_EQ(NomesDoMenu(j.janela.findChild<QMenu *>(QStringLiteral("mnuEditarBanda"))),
+              QStringList({"mnuEditarBandaAdicionar", "mnuEditarBandaInserir", "mnuEditarBandaDuplicar",
+                           "mnuEditarBandaRemover", "mnuEditarBandaUp", "mnuEditarBandaDown", "mnuEditarBandaAuto",
+                           "mnuEditarBandaPagina", "mnuEditarBandaFonte", "mnuEditarBandaComentario"}));
+    EXPECT_EQ(NomesDoMenu(j.janela.findChild<QMenu *>(QStringLiteral("mnuEditarItem"))),
+              QStringList({"mnuEditarItemAdicionar", "mnuEditarItemInserir", "mnuEditarItemDuplicar",
+                           "mnuEditarItemRemover", "mnuEditarItemLeft", "mnuEditarItemRight", "mnuEditarItemTexto",
+                           "mnuEditarItemFigura", "mnuEditarItemComando", "mnuEditarItemCodigoBarras",
+                           "mnuEditarItemEstilo"}));
+    EXPECT_EQ(NomesDoMenu(j.janela.findChild<QMenu *>(QStringLiteral("mnuEditarMacro"))).size(), 13);
+    EXPECT_EQ(NomesDoMenu(j.janela.findChild<QMenu *>(QStringLiteral("mnuConfigEmail"))),
+              QStringList({"mnuConfigEmailJPG", "mnuConfigEmailEMF", "mnuConfigEmailGIF", "mnuConfigEmailPDF",
+                           "mnuConfigEmailDOC", "mnuConfigEmailTexto"}));
+    EXPECT_EQ(NomesDoMenu(j.janela.mnuPopup), QStringList({"mnuPopupCopiar", "mnuPopupSelecionar"}));
+    EXPECT_EQ(j.acao("mnuPopupCopiar")->text(), QStringLiteral("&Copiar"));
+    EXPECT_EQ(j.acao("mnuPopupSelecionar")->text(), QStringLiteral("&Selecionar Tudo"));
+
+    // A first start: no recent files, so their entries, the separator and
+    // "Excluir Atalhos" are hidden; pixels, the result pane, JPG e-mail.
+    for (int k = 1; k <= 4; ++k)
+        EXPECT_FALSE(j.janela.Acao(QStringLiteral("mnuArquivoRecente(%1)").arg(k))->isVisible());
+    EXPECT_FALSE(j.acao("mnuArquivoExcluirRecentes")->isVisible());
+    EXPECT_EQ(j.acao("mnuArquivoExcluirRecentes")->text(), QStringLiteral("&Excluir Atalhos"));
+    EXPECT_TRUE(j.acao("mnuConfigMedidaPixels")->isChecked());
+    EXPECT_FALSE(j.acao("mnuConfigMedidaMilimetros")->isChecked());
+    EXPECT_TRUE(j.acao("mnuConfigResultado")->isChecked());
+    EXPECT_TRUE(j.acao("mnuConfigEmailJPG")->isChecked());
+    EXPECT_FALSE(j.acao("mnuConfigPaisagem")->isChecked());
+    EXPECT_TRUE(j.janela.btnMagic->Value());
+    EXPECT_EQ(j.janela.btnMagic->toolTip(), QStringLiteral("Criar itens com um clique"));
+    EXPECT_EQ(j.janela.windowTitle(), QStringLiteral("LumetaEdit 2.0 - Editor de Layout do Lumeta"));
+    EXPECT_EQ(j.janela.tabPagina->Text(), QStringLiteral("Página"));
+    EXPECT_TRUE(j.janela.tabPagina->Selected());
+    EXPECT_EQ(j.janela.minimumSize(), QSize(633, 384));
+}
+
+TEST(frmLumetaEdit, PainelDeResultadoAposNovoEAlternanciaDoArquivoTexto)
+{
+    Janela j;
+    const QStringList esperado = {"QJ 92", "F 100000Arial", "T 009900002000600000100010Texto 1", "RH 00018", "QL"};
+    EXPECT_EQ(j.janela.rtbResultado->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts), esperado);
+    j.editar();
+    j.acao("mnuArquivoNovo")->trigger();   // scripted answer to the question: Cancel
+    EXPECT_EQ(j.janela.Sessao().Documento.NumBandas(), 2);
+    j.ui.respostas = {Resposta::Nao};
+    j.acao("mnuArquivoNovo")->trigger();
+    EXPECT_EQ(j.ui.perguntas.last().titulo, QStringLiteral("Novo"));
+    EXPECT_EQ(j.janela.rtbResultado->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts), esperado);
+
+    ASSERT_TRUE(j.janela.rtbResultado->isVisible());
+    const int larguraCom = j.janela.areaCanvas->width();
+    const int resultadoX = j.janela.rtbResultado->mapTo(&j.janela, QPoint(0, 0)).x();
+    EXPECT_GT(resultadoX, j.janela.areaCanvas->mapTo(&j.janela, QPoint(0, 0)).x() + larguraCom - 1);
+    j.acao("mnuConfigResultado")->trigger();
+    QApplication::processEvents();
+    EXPECT_FALSE(j.janela.rtbResultado->isVisible());
+    EXPECT_FALSE(j.acao("mnuConfigResultado")->isChecked());
+    EXPECT_FALSE(j.janela.Sessao().Config.ExibirResultado);
+    const int larguraSem = j.janela.areaCanvas->width();
+    EXPECT_GT(larguraSem, larguraCom + 150);
+    EXPECT_GE(larguraSem, j.janela.centralWidget()->width() - 8);
+    // The picture beside the toolbar switches it back.
+    emit j.janela.imgResultado->Click();
+    QApplication::processEvents();
+    EXPECT_TRUE(j.janela.rtbResultado->isVisible());
+    EXPECT_TRUE(j.acao("mnuConfigResultado")->isChecked());
+    EXPECT_EQ(j.janela.areaCanvas->width(), larguraCom);
+
+    // Options of the Configure menu regenerate the pane at once.
+    j.acao("mnuConfigEmailPDF")->trigger();
+    EXPECT_TRUE(j.janela.rtbResultado->toPlainText().startsWith(QStringLiteral("EP 100\n")));
+    EXPECT_TRUE(j.acao("mnuConfigEmailPDF")->isChecked());
+    EXPECT_FALSE(j.acao("mnuConfigEmailJPG")->isChecked());
+    j.acao("mnuConfigVisivel")->trigger();
+    EXPECT_TRUE(j.acao("mnuConfigVisivel")->isChecked());
+    EXPECT_TRUE(j.janela.rtbResultado->toPlainText().contains(QStringLiteral("\nSV\n")));
+    EXPECT_TRUE(j.janela.Sessao().Alterado);
+
+    // The pane's pop-up menu: Copy only with a selection.
+    emit j.janela.mnuPopup->aboutToShow();
+    EXPECT_FALSE(j.acao("mnuPopupCopiar")->isEnabled());
+    j.acao("mnuPopupSelecionar")->trigger();
+    emit j.janela.mnuPopup->aboutToShow();
+    EXPECT_TRUE(j.acao("mnuPopupCopiar")->isEnabled());
+    j.acao("mnuPopupCopiar")->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), j.janela.rtbResultado->toPlainText());
+}
+
+TEST(frmLumetaEdit, DesfazerSoComEdicaoEForaDeCaixaDeTexto)
+{
+    Janela j;
+    QAction *desfazer = j.acao("mnuEditarDesfazer");
+    emit j.janela.mnuEditar->aboutToShow();
+    EXPECT_FALSE(desfazer->isEnabled());
+    j.editar();
+    j.editar();
+    emit j.janela.mnuEditar->aboutToShow();
+    EXPECT_TRUE(desfazer->isEnabled());
+    // A text box with the focus keeps its own undo.
+    auto *caixa = new QLineEdit(j.janela.centralWidget());
+    caixa->show();
+    caixa->setFocus();
+    QApplication::processEvents();
+    emit j.janela.mnuEditar->aboutToShow();
+    EXPECT_FALSE(desfazer->isEnabled());
+    j.janela.picPagina->setFocus();
+    delete caixa;
+    QApplication::processEvents();
+    emit j.janela.mnuEditar->aboutToShow();
+    ASSERT_TRUE(desfazer->isEnabled());
+    desfazer->trigger();
+    EXPECT_EQ(j.janela.Sessao().Documento.NumBandas(), 2);
+    EXPECT_EQ(j.janela.rtbResultado->toPlainText().count(QStringLiteral("RH 00018")), 2);
+    desfazer->trigger();
+    EXPECT_EQ(j.janela.Sessao().Documento.NumBandas(), 1);
+    EXPECT_FALSE(desfazer->isEnabled());
+}
+
+TEST(frmLumetaEdit, SairComCancelarNoDialogoMantemAJanelaESairGravaAsConfiguracoes)
+{
+    Janela j;
+    j.editar();
+    j.ui.respostas = {Resposta::Sim};
+    j.ui.arquivos = {QString()};
+    EXPECT_FALSE(j.janela.close());
+    EXPECT_TRUE(j.janela.isVisible());
+    EXPECT_TRUE(j.janela.Sessao().Alterado);
+    EXPECT_EQ(j.ui.perguntas.last().titulo, QStringLiteral("Sair"));
+    EXPECT_FALSE(QFile::exists(j.cfg.ArquivoIni()) &&
+                 QSettings(j.cfg.ArquivoIni(), QSettings::IniFormat).contains(QStringLiteral("MagicItem")));
+
+    j.janela.btnMagic->setValue(false);
+    j.acao("mnuConfigMedidaCentimetros")->trigger();
+    EXPECT_TRUE(j.acao("mnuConfigMedidaCentimetros")->isChecked());
+    EXPECT_FALSE(j.acao("mnuConfigMedidaPixels")->isChecked());
+    j.ui.respostas = {Resposta::Nao};
+    EXPECT_TRUE(j.janela.close());
+    QSettings s(j.cfg.ArquivoIni(), QSettings::IniFormat);
+    EXPECT_EQ(s.value(QStringLiteral("MagicItem")).toString(), QStringLiteral("False"));
+    EXPECT_EQ(s.value(QStringLiteral("Unidade de Medida")).toString(), QStringLiteral("7"));
+    EXPECT_EQ(s.value(QStringLiteral("Exibir Resultado")).toString(), QStringLiteral("True"));
+    EXPECT_FALSE(s.value(QStringLiteral("Pasta")).toString().isEmpty());
+}
+
+TEST(frmLumetaEdit, InicioComArquivoArquivosRecentesEAberturaQueFalha)
+{
+    ConfigTemporaria base;
+    const QString caminho = base.Pasta() + QStringLiteral("/Meus Layouts/rel.lmt");
+    QDir().mkpath(QFileInfo(caminho).absolutePath());
+    {
+        SessaoEditor s;
+        s.AddBanda(0, false, 40, 300);
+        ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
+    }
+    Janela j({QStringLiteral("\"") + caminho + QStringLiteral("\"")});
+    ASSERT_TRUE(j.iniciado);
+    EXPECT_EQ(j.janela.windowTitle(), QStringLiteral("LumetaEdit 2.0 - [") + caminho + QStringLiteral("]"));
+    EXPECT_FALSE(j.janela.Sessao().Alterado);
+    EXPECT_EQ(j.janela.Sessao().Documento.NumBandas(), 2);
+    QAction *r1 = j.acao("mnuArquivoRecente(1)");
+    EXPECT_TRUE(r1->isVisible());
+    EXPECT_EQ(r1->text(), QStringLiteral("rel.lmt"));
+    EXPECT_FALSE(j.acao("mnuArquivoRecente(2)")->isVisible());
+    EXPECT_TRUE(j.acao("mnuArquivoExcluirRecentes")->isVisible());
+
+    // Save As a second name: it goes first in the menu.
+    const QString outro = j.cfg.Pasta() + QStringLiteral("/a&b.lmt");
+    j.ui.arquivos = {outro};
+    j.acao("mnuArquivoSalvarComo")->trigger();
+    EXPECT_EQ(j.acao("mnuArquivoRecente(1)")->text(), QStringLiteral("a&&b.lmt"));
+    EXPECT_EQ(j.acao("mnuArquivoRecente(2)")->text(), QStringLiteral("rel.lmt"));
+    EXPECT_EQ(j.janela.windowTitle(), QStringLiteral("LumetaEdit 2.0 - [") + outro + QStringLiteral("]"));
+
+    // A recent file that went away.
+    QFile::remove(caminho);
+    j.acao("mnuArquivoRecente(2)")->trigger();
+    ASSERT_EQ(j.ui.mensagens.size(), 1);
+    EXPECT_EQ(j.ui.mensagens[0].texto, caminho + QStringLiteral("\n\nNão foi possível encontrar o arquivo acima!"));
+    EXPECT_TRUE(j.acao("mnuArquivoRecente(2)")->isVisible());
+
+    j.acao("mnuArquivoExcluirRecentes")->trigger();
+    EXPECT_FALSE(j.acao("mnuArquivoRecente(1)")->isVisible());
+    EXPECT_FALSE(j.acao("mnuArquivoExcluirRecentes")->isVisible());
+
+    // An unreadable file ends the program without asking about changes.
+    const QString ruim = j.cfg.Pasta() + QStringLiteral("/ruim.lmt");
+    teste::GravarArquivoTeste(ruim, GravarLMT(LayoutDocumento()).left(36));
+    j.editar();
+    j.ui.respostas = {Resposta::Nao};
+    j.ui.arquivos = {ruim};
+    const qsizetype perguntas = j.ui.perguntas.size();
+    j.acao("mnuArquivoAbrir")->trigger();
+    EXPECT_EQ(j.encerramentos, 1);
+    EXPECT_EQ(j.ui.perguntas.size(), perguntas + 1);   // only the one before the dialog
+    EXPECT_TRUE(j.janela.close());                       // no further question
+    EXPECT_EQ(j.ui.perguntas.size(), perguntas + 1);
+}
+
+TEST(frmLumetaEdit, MenuConfigurarReconstroiOsCpyERecusaQuebraComRodape)
+{
+    ConfigTemporaria base;
+    const QString pasta = base.Pasta() + QStringLiteral("/linguagens");
+    QDir().mkpath(pasta);
+    qputenv(VariavelPastaLinguagens, pasta.toLocal8Bit());
+    ASSERT_TRUE(GravarArquivoLinguagem(pasta + QStringLiteral("/Cobol.lin"), LinguagemPadrao()).resultado ==
+                ResultadoLin::Ok);
+    ASSERT_TRUE(GravarArquivoLinguagem(pasta + QStringLiteral("/basic.lin"), LinguagemPadrao()).resultado ==
+                ResultadoLin::Ok);
+    Janela j;
+    j.janela.Sessao().DefinirCPY(QStringLiteral("COBOL"));
+    QMenu *cpy = j.janela.findChild<QMenu *>(QStringLiteral("mnuConfigCpy"));
+    emit j.janela.mnuConfig->aboutToShow();
+    EXPECT_EQ(NomesDoMenu(cpy), QStringList({"mnuConfigCpyNenhum", "mnuConfigCpyTipo(1)", "mnuConfigCpyTipo(2)"}));
+    EXPECT_EQ(j.acao("mnuConfigCpyTipo(1)")->text(), QStringLiteral("basic"));
+    EXPECT_EQ(j.acao("mnuConfigCpyTipo(2)")->text(), QStringLiteral("Cobol"));
+    EXPECT_TRUE(j.acao("mnuConfigCpyTipo(2)")->isChecked());
+    EXPECT_FALSE(j.acao("mnuConfigCpyNenhum")->isChecked());
+
+    // A language removed on disk leaves the menu the next time it opens.
+    QFile::remove(pasta + QStringLiteral("/Cobol.lin"));
+    j.acao("mnuConfigCpyTipo(1)")->trigger();
+    emit j.janela.mnuConfig->aboutToShow();
+    QApplication::processEvents();
+    EXPECT_EQ(NomesDoMenu(cpy), QStringList({"mnuConfigCpyNenhum", "mnuConfigCpyTipo(1)"}));
+    EXPECT_TRUE(j.acao("mnuConfigCpyTipo(1)")->isChecked());
+    EXPECT_EQ(QSettings(j.cfg.ArquivoIni(), QSettings::IniFormat).value(QStringLiteral("CPY")).toString(),
+              QStringLiteral("basic"));
+    j.acao("mnuConfigCpyNenhum")->trigger();
+    emit j.janela.mnuConfig->aboutToShow();
+    EXPECT_TRUE(j.acao("mnuConfigCpyNenhum")->isChecked());
+    EXPECT_EQ(QSettings(j.cfg.ArquivoIni(), QSettings::IniFormat).value(QStringLiteral("CPY")).toString(),
+              QString());
+
+    // The copy-as submenu lists the languages too, and copies the code.
+    QMenu *como = j.janela.findChild<QMenu *>(QStringLiteral("mnuEditarCopiarComo"));
+    emit como->aboutToShow();
+    EXPECT_EQ(NomesDoMenu(como), QStringList({"mnuEditarCopiarComoComandos", "mnuEditarCopiarComoTipo(1)"}));
+    QApplication::clipboard()->setText(QStringLiteral("antes"));
+    j.acao("mnuEditarCopiarComoTipo(1)")->trigger();
+    EXPECT_NE(QApplication::clipboard()->text(), QStringLiteral("antes"));
+    EXPECT_TRUE(j.ui.mensagens.isEmpty());
+
+    // Final page break with a footer band: refused, check mark unchanged.
+    j.editar();
+    j.janela.Sessao().Documento.BandaRodape = 2;
+    j.acao("mnuConfigQuebraPagina")->trigger();
+    ASSERT_EQ(j.ui.mensagens.size(), 1);
+    EXPECT_EQ(j.ui.mensagens[0].titulo, QStringLiteral("Rodapé"));
+    EXPECT_FALSE(j.acao("mnuConfigQuebraPagina")->isChecked());
+    EXPECT_FALSE(j.janela.Sessao().Documento.QuebraPaginaFinal);
+    qunsetenv(VariavelPastaLinguagens);
+}
+
+TEST(frmLumetaEdit, CanvasPintaORodaRolaEAboutBox)
+{
+    Janela j;
+    // The page picture is as large as the canvas and shows the layout.
+    EXPECT_EQ(j.janela.picPagina->size(), j.janela.Sessao().Canvas.Tamanho);
+    EXPECT_GE(j.janela.picPagina->width(), 1120);
+    const QImage img = j.janela.picPagina->grab(QRect(0, 0, 800, 200)).toImage();
+    EXPECT_EQ(QColor(img.pixel(8, 20)), QColor(230, 230, 230));       // the item's cell outline
+    EXPECT_EQ(QColor(img.pixel(776, 150)), QColor(0, 255, 255));      // portrait page marker
+    EXPECT_EQ(QColor(img.pixel(400, 150)), QColor(Qt::white));
+
+    // Scroll bars move the page inside the viewport.
+    QScrollBar *v = j.janela.vsbPagina;
+    ASSERT_GT(v->maximum(), 0);
+    EXPECT_EQ(v->maximum(), 1120 - j.janela.picContainer->height());
+    v->setValue(100);
+    EXPECT_EQ(j.janela.picPagina->y(), -100);
+    j.janela.hsbPagina->setValue(j.janela.hsbPagina->maximum());
+    EXPECT_EQ(j.janela.picPagina->x(), -j.janela.hsbPagina->maximum());
+
+    // The wheel: one notch away scrolls up one step, towards the user down.
+    auto roda = [&](int delta) {
+        QWheelEvent e(QPointF(50, 50), j.janela.mapToGlobal(QPointF(50, 50)), QPoint(), QPoint(0, delta),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        // Events made here are not spontaneous, so Qt does not pass them up
+        // from the canvas; they go to the window, where the canvas's ones end.
+        QApplication::sendEvent(&j.janela, &e);
+    };
+    // Force the hook: whether this machine reports a wheel is not the test's business.
+    ASSERT_TRUE(j.janela.Roda().InstalarRoda(&j.janela, true));
+    v->setValue(200);
+    const int passo = v->singleStep();
+    roda(120);
+    EXPECT_EQ(v->value(), 200 - passo);
+    roda(-120);
+    EXPECT_EQ(v->value(), 200);
+    roda(240);    // two notches: not "one notch away", so down
+    EXPECT_EQ(v->value(), 200 + passo);
+    roda(150);    // 1.25 notches rounds to one: up
+    EXPECT_EQ(v->value(), 200);
+    v->setValue(0);
+    roda(120);    // within the bar's limits
+    EXPECT_EQ(v->value(), 0);
+    j.janela.Roda().RemoverRoda();
+    j.janela.Roda().RemoverRoda();   // nothing installed: nothing happens
+    v->setValue(200);
+    roda(120);
+    EXPECT_EQ(v->value(), 200);
+
+    // Showing the selection scrolls the selected item into view.
+    v->setValue(v->maximum());
+    j.janela.hsbPagina->setValue(0);
+    j.janela.Sessao().ItemSelecionado = 1;
+    j.janela.MostrarSelecao();
+    EXPECT_EQ(v->value(), 16 - 8);
+    j.janela.Sessao().ItemSelecionado = 0;
+
+    Autor autor(&j.janela);
+    EXPECT_EQ(autor.windowTitle(), QStringLiteral("Sobre o LumetaEdit 2.0"));
+    EXPECT_EQ(autor.findChild<QLabel *>(QStringLiteral("lblTitulo"))->text(), QStringLiteral("LumetaEdit 2.0"));
+    EXPECT_EQ(autor.findChild<QLabel *>(QStringLiteral("lblVersao"))->text(),
+              QStringLiteral("Versão %1.%2.%3").arg(LUMETA_VERSAO_MAIOR).arg(LUMETA_VERSAO_MENOR).arg(LUMETA_VERSAO_REVISAO));
+    EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblEmail"))->text().contains(QStringLiteral("href=\"mailto:") + EmailAutor));
+    EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblSite"))->text().contains(QStringLiteral("href=\"") + EnderecoSite));
+    EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblSite"))->openExternalLinks());
+}

@@ -1,0 +1,336 @@
+#include "controls/ui/CommonDialogCls.h"
+#include "controls/ui/InterfaceUsuarioQt.h"
+#include "controls/ui/ModMouseWheel.h"
+#include "controls/ui/TabCtl.h"
+#include "controls/ui/XPButtonCtl.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+// Runs `f` on the modal dialog that the code under test opens next.
+void QuandoModal(std::function<void(QWidget *)> f)
+{
+    auto *t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, f] {
+        if (QWidget *w = QApplication::activeModalWidget()) {
+            t->stop();
+            t->deleteLater();
+            f(w);
+        }
+    });
+    t->start();
+}
+
+void Clicar(QWidget *w, QPoint p, Qt::MouseButton b = Qt::LeftButton)
+{
+    QMouseEvent press(QEvent::MouseButtonPress, p, w->mapToGlobal(p), b, b, Qt::NoModifier);
+    QApplication::sendEvent(w, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, p, w->mapToGlobal(p), b, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(w, &release);
+}
+
+void Tecla(QWidget *w, int tecla)
+{
+    QKeyEvent press(QEvent::KeyPress, tecla, Qt::NoModifier, tecla == Qt::Key_Space ? QStringLiteral(" ") : QString());
+    QApplication::sendEvent(w, &press);
+    QKeyEvent release(QEvent::KeyRelease, tecla, Qt::NoModifier, tecla == Qt::Key_Space ? QStringLiteral(" ") : QString());
+    QApplication::sendEvent(w, &release);
+}
+
+}  // namespace
+
+TEST(TabCtl, FormaTamanhoMinimoRotuloECliques)
+{
+    TabCtl tab;
+    tab.setText(QStringLiteral("Página"));
+    tab.show();
+    tab.resize(10, 5);
+    EXPECT_EQ(tab.size(), QSize(64, 24));
+    tab.resize(120, 30);
+    auto *lbl = tab.findChild<QLabel *>(QStringLiteral("lblTab"));
+    ASSERT_NE(lbl, nullptr);
+    EXPECT_EQ(lbl->text(), QStringLiteral("Página"));
+    EXPECT_EQ(lbl->width(), 116);
+    EXPECT_EQ(TabCtl::Forma(120, 30),
+              QPolygon({QPoint(15, 0), QPoint(110, 0), QPoint(119, 10), QPoint(119, 29), QPoint(0, 29), QPoint(15, 0)}));
+    // The slanted left edge and the cut corner are outside the control.
+    const QRegion m = tab.mask();
+    EXPECT_FALSE(m.contains(QPoint(2, 2)));
+    EXPECT_FALSE(m.contains(QPoint(118, 1)));
+    EXPECT_TRUE(m.contains(QPoint(16, 1)));
+    EXPECT_TRUE(m.contains(QPoint(119, 29)));
+    EXPECT_TRUE(m.contains(QPoint(1, 29)));
+
+    EXPECT_FALSE(lbl->font().bold());
+    tab.setSelected(true);
+    EXPECT_TRUE(tab.Selected());
+    EXPECT_TRUE(lbl->font().bold());
+
+    int cliques = 0;
+    QObject::connect(&tab, &TabCtl::Click, [&] { ++cliques; });
+    Clicar(lbl, QPoint(20, 10));
+    Clicar(&tab, QPoint(60, 28));
+    Clicar(&tab, QPoint(60, 28), Qt::RightButton);
+    EXPECT_EQ(cliques, 2);
+
+    // The outline is drawn in grey around a white face.
+    const QImage img = tab.grab().toImage();
+    EXPECT_EQ(QColor(img.pixel(60, 29)), QColor(128, 128, 128));
+    EXPECT_EQ(QColor(img.pixel(105, 20)), tab.palette().color(QPalette::Base));
+}
+
+TEST(XPButtonCtl, AlternanciaCliqueTeclasEFoco)
+{
+    QWidget pai;
+    auto *antes = new XPButtonCtl(&pai);
+    auto *b = new XPButtonCtl(&pai);
+    auto *depois = new XPButtonCtl(&pai);
+    b->setCaption(QStringLiteral("&Magia"));
+    b->resize(80, 26);
+    pai.show();
+    EXPECT_EQ(XPButtonCtl::Version(), QStringLiteral("2.0.6"));
+
+    int cliques = 0;
+    QList<bool> valores;
+    QObject::connect(b, &XPButtonCtl::Click, [&] { ++cliques; });
+    QObject::connect(b, &XPButtonCtl::ValueChanged, [&](bool v) { valores << v; });
+    Clicar(b, QPoint(10, 10));
+    EXPECT_EQ(cliques, 1);
+    EXPECT_FALSE(b->Value());          // a plain button does not toggle
+    b->setCheckBoxBehaviour(true);
+    Clicar(b, QPoint(10, 10));
+    EXPECT_TRUE(b->Value());
+    Clicar(b, QPoint(10, 10));
+    EXPECT_FALSE(b->Value());
+    EXPECT_EQ(valores, QList<bool>({true, false}));
+    EXPECT_EQ(cliques, 3);
+
+    // A release outside the button is no click.
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(10, 10), b->mapToGlobal(QPointF(10, 10)), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(b, &press);
+    QMouseEvent fora(QEvent::MouseButtonRelease, QPointF(200, 10), b->mapToGlobal(QPointF(200, 10)), Qt::LeftButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(b, &fora);
+    EXPECT_EQ(cliques, 3);
+
+    // Space released after being pressed on the button clicks it.
+    Tecla(b, Qt::Key_Space);
+    EXPECT_EQ(cliques, 4);
+    EXPECT_TRUE(b->Value());
+
+    b->setEnabled(false);
+    Clicar(b, QPoint(10, 10));
+    EXPECT_EQ(cliques, 4);
+    b->setEnabled(true);
+
+    // Arrows move the focus as Tab and Shift+Tab do.
+    pai.activateWindow();
+    b->setFocus();
+    QApplication::processEvents();
+    ASSERT_TRUE(b->hasFocus());
+    Tecla(b, Qt::Key_Right);
+    EXPECT_TRUE(depois->hasFocus());
+    Tecla(depois, Qt::Key_Up);
+    EXPECT_TRUE(b->hasFocus());
+    Tecla(b, Qt::Key_Left);
+    EXPECT_TRUE(antes->hasFocus());
+    Tecla(antes, Qt::Key_Down);
+    EXPECT_TRUE(b->hasFocus());
+
+    // Hover: the face takes BackOver; leaving raises MouseLeave.
+    b->setCaption(QString());
+    b->setCheckBoxBehaviour(false);
+    b->setValue(false);
+    b->BackColor = QColor(10, 20, 30);
+    b->BackOver = QColor(200, 100, 50);
+    b->ButtonType = XPButtonCtl::Elevado;
+    b->ShowFocusRect = false;
+    EXPECT_EQ(QColor(b->grab().toImage().pixel(40, 13)), QColor(10, 20, 30));
+    QEnterEvent entra(QPointF(5, 5), QPointF(5, 5), b->mapToGlobal(QPointF(5, 5)));
+    QApplication::sendEvent(b, &entra);
+    EXPECT_TRUE(b->MouseOver());
+    EXPECT_EQ(QColor(b->grab().toImage().pixel(40, 13)), QColor(200, 100, 50));
+    int saidas = 0;
+    QObject::connect(b, &XPButtonCtl::MouseLeave, [&] { ++saidas; });
+    QEvent sai(QEvent::Leave);
+    QApplication::sendEvent(b, &sai);
+    EXPECT_FALSE(b->MouseOver());
+    EXPECT_EQ(saidas, 1);
+}
+
+TEST(ModMouseWheel, UmEntalheParaLongeRolaParaCimaQualquerOutroParaBaixo)
+{
+    EXPECT_EQ(DirecaoRoda(120), RolarAcima);
+    EXPECT_EQ(DirecaoRoda(150), RolarAcima);     // 1.25 notches
+    EXPECT_EQ(DirecaoRoda(90), RolarAcima);      // 0.75 rounds to one
+    EXPECT_EQ(DirecaoRoda(60), RolarAbaixo);     // half a notch rounds to 0
+    EXPECT_EQ(DirecaoRoda(0), RolarAbaixo);
+    EXPECT_EQ(DirecaoRoda(240), RolarAbaixo);
+    EXPECT_EQ(DirecaoRoda(-120), RolarAbaixo);
+
+    // The window still gets the wheel first; the hook then scrolls.
+    struct Janela : QWidget {
+        int rodas = 0;
+        void wheelEvent(QWheelEvent *e) override
+        {
+            ++rodas;
+            e->ignore();
+        }
+    } janela;
+    QList<DirecaoRolagem> passos;
+    ModMouseWheel roda([&](DirecaoRolagem d) { passos << d; });
+    roda.RemoverRoda();
+    EXPECT_FALSE(roda.Instalado());
+    ASSERT_TRUE(roda.InstalarRoda(&janela, true));
+    auto girar = [&](QPoint delta) {
+        QWheelEvent e(QPointF(5, 5), QPointF(5, 5), QPoint(), delta, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+        QApplication::sendEvent(&janela, &e);
+    };
+    girar(QPoint(0, 120));
+    girar(QPoint(0, -120));
+    girar(QPoint(120, 0));    // sideways: not the wheel message
+    EXPECT_EQ(passos, QList<DirecaoRolagem>({RolarAcima, RolarAbaixo}));
+    EXPECT_EQ(janela.rodas, 3);
+    roda.RemoverRoda();
+    girar(QPoint(0, 120));
+    EXPECT_EQ(passos.size(), 2);
+    EXPECT_EQ(janela.rodas, 4);
+}
+
+TEST(CommonDialogCls, FiltrosCoresEDialogosComAsOpcoesPedidas)
+{
+    EXPECT_EQ(CommonDialogCls::FiltrosQt(QStringLiteral("Lumeta Layout (*.lmt)|*.lmt")),
+              QStringList({"Lumeta Layout (*.lmt) (*.lmt)"}));
+    EXPECT_EQ(CommonDialogCls::FiltrosQt(QStringLiteral("Figuras|*.bmp;*.jpg|Todos|*.*")),
+              QStringList({"Figuras (*.bmp *.jpg)", "Todos (*.*)"}));
+    EXPECT_EQ(CommonDialogCls::CorParaBGR(QColor(0x11, 0x22, 0x33)), 0x332211);
+    EXPECT_EQ(CommonDialogCls::BGRParaCor(0x332211), QColor(0x11, 0x22, 0x33));
+
+    QTemporaryDir dir;
+    const QString existente = dir.filePath(QStringLiteral("a.lmt"));
+    QFile f(existente);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.close();
+
+    QuandoModal([&](QWidget *w) {
+        auto *d = qobject_cast<QFileDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(d->windowTitle(), QStringLiteral("Abrir layout"));
+        EXPECT_EQ(d->fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(d->acceptMode(), QFileDialog::AcceptOpen);
+        // The description reads as the editor gives it.
+        EXPECT_EQ(d->selectedNameFilter(), QStringLiteral("Lumeta Layout (*.lmt)"));
+        EXPECT_TRUE(d->testOption(QFileDialog::HideNameFilterDetails));
+        d->selectFile(existente);
+        static_cast<QDialog *>(d)->accept();
+    });
+    EXPECT_EQ(CommonDialogCls::GetOpenName(QStringLiteral("Abrir layout"), QStringLiteral("Lumeta Layout (*.lmt)|*.lmt"),
+                                           dir.path() + QLatin1Char('/'), nullptr),
+              existente);
+
+    QuandoModal([&](QWidget *w) {
+        auto *d = qobject_cast<QFileDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(d->acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_FALSE(d->testOption(QFileDialog::DontConfirmOverwrite));
+        EXPECT_EQ(d->defaultSuffix(), QStringLiteral("lmt"));
+        EXPECT_EQ(d->directory().absolutePath(), QDir(dir.path()).absolutePath());
+        d->reject();
+    });
+    EXPECT_EQ(CommonDialogCls::GetSaveName(QString(), QStringLiteral("Lumeta Layout (*.lmt)|*.lmt"), existente,
+                                           QStringLiteral("lmt"), nullptr),
+              QString());
+
+    QuandoModal([](QWidget *w) {
+        auto *d = qobject_cast<QColorDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(d->currentColor(), QColor(0x11, 0x22, 0x33));
+        d->setCurrentColor(QColor(1, 2, 3));
+        d->accept();
+    });
+    EXPECT_EQ(CommonDialogCls::PickColor(0x332211, nullptr), 0x030201);
+    QuandoModal([](QWidget *w) { qobject_cast<QDialog *>(w)->reject(); });
+    EXPECT_EQ(CommonDialogCls::PickColor(0, nullptr), -1);
+    EXPECT_EQ(QColorDialog::customCount(), 16);
+
+    FonteDialogo fonte{QStringLiteral("Liberation Sans"), 12, true, false, true, false};
+    QuandoModal([](QWidget *w) {
+        auto *d = qobject_cast<QFontDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(d->currentFont().weight(), QFont::Bold);
+        EXPECT_TRUE(d->currentFont().underline());
+        EXPECT_EQ(d->currentFont().pointSize(), 12);
+        d->reject();
+    });
+    const FonteDialogo antes = fonte;
+    EXPECT_FALSE(CommonDialogCls::GetFont(fonte, nullptr));
+    EXPECT_EQ(fonte, antes);
+    QuandoModal([](QWidget *w) { static_cast<QDialog *>(w)->accept(); });
+    EXPECT_TRUE(CommonDialogCls::GetFont(fonte, nullptr));
+    EXPECT_FALSE(fonte.Nome.isEmpty());
+    EXPECT_EQ(fonte.Tamanho, 12);
+    EXPECT_TRUE(fonte.Negrito);
+    EXPECT_FALSE(fonte.Italico);
+    EXPECT_TRUE(fonte.Sublinhado);
+}
+
+TEST(InterfaceUsuarioQt, CaixasComTituloIconeEBotoesEmPortugues)
+{
+    InterfaceUsuarioQt ui;
+    QuandoModal([](QWidget *w) {
+        auto *m = qobject_cast<QMessageBox *>(w);
+        ASSERT_NE(m, nullptr);
+        EXPECT_EQ(m->windowTitle(), QStringLiteral("Sair"));
+        EXPECT_EQ(m->text(), QStringLiteral("Deseja salvar as alterações?"));
+        EXPECT_EQ(m->icon(), QMessageBox::Question);
+        EXPECT_EQ(m->button(QMessageBox::Yes)->text(), QStringLiteral("&Sim"));
+        EXPECT_EQ(m->button(QMessageBox::No)->text(), QStringLiteral("&Não"));
+        ASSERT_NE(m->button(QMessageBox::Cancel), nullptr);
+        m->button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(ui.Perguntar(QStringLiteral("Deseja salvar as alterações?"), QStringLiteral("Sair"), Botoes::SimNaoCancelar,
+                           Icone::Pergunta),
+              Resposta::Nao);
+    QuandoModal([](QWidget *w) { qobject_cast<QMessageBox *>(w)->button(QMessageBox::Cancel)->click(); });
+    EXPECT_EQ(ui.Perguntar(QStringLiteral("x"), QStringLiteral("Novo"), Botoes::SimNaoCancelar, Icone::Pergunta),
+              Resposta::Cancelar);
+
+    QuandoModal([](QWidget *w) {
+        auto *m = qobject_cast<QMessageBox *>(w);
+        ASSERT_NE(m, nullptr);
+        // A box without a title of its own carries the application's.
+        EXPECT_EQ(m->windowTitle(), QStringLiteral("LumetaEdit 2.0"));
+        EXPECT_EQ(m->icon(), QMessageBox::Information);
+        m->accept();
+    });
+    ui.Mensagem(QStringLiteral("Não foi possível encontrar o arquivo acima!"), QString(), Icone::Informacao);
+
+    QuandoModal([](QWidget *w) {
+        auto *d = qobject_cast<QInputDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(d->labelText(), QStringLiteral("Número:"));
+        d->setTextValue(QStringLiteral("07"));
+        d->accept();
+    });
+    EXPECT_EQ(ui.Entrada(QStringLiteral("Número:"), QStringLiteral("Variável"), QString()), std::optional<QString>(QStringLiteral("07")));
+    QuandoModal([](QWidget *w) { qobject_cast<QDialog *>(w)->reject(); });
+    EXPECT_EQ(ui.Entrada(QStringLiteral("Número:"), QStringLiteral("Variável"), QString()), std::nullopt);
+}

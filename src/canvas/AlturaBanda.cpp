@@ -28,6 +28,11 @@ int MedidorFontes::Medir(const FonteItem &fonte, const QString &texto, int largu
     return h;
 }
 
+QString TextoExibido(const QString &texto)
+{
+    return texto.contains(QLatin1String("(%_")) ? ExpandirMacros(texto, 1) : texto;
+}
+
 OpcoesTexto OpcoesDoItem(const Item &item)
 {
     const int32_t bits = Alinhamento(item.Atributos);
@@ -62,7 +67,7 @@ int CalcularAlturaBanda(const Banda &banda, MedidorAltura &medidor)
         // The text area runs from Esquerda + 10 to Esquerda + Largura + 6.
         // Rotated text is measured against a zero height, so its result does
         // not depend on the height the band had before.
-        const int h = medidor.Medir(*fonte, ExpandirMacros(item.Texto, 1), item.Largura - 4, 0, op);
+        const int h = medidor.Medir(*fonte, TextoExibido(item.Texto), item.Largura - 4, 0, op);
         if (h > maximo)
             maximo = h + 4;
     }

@@ -42,6 +42,11 @@ private:
     QHash<Chave, int> m_medidas;
 };
 
+// An item text in its display form for the canvas (page 1). Reading the
+// clock and the locale costs more than a whole layout of a text, so texts
+// without a macro skip it.
+QString TextoExibido(const QString &texto);
+
 // The options a text item's format flags give the renderer (vertical centre
 // and bottom included; the height calculation clears them itself).
 OpcoesTexto OpcoesDoItem(const Item &item);

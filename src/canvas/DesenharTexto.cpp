@@ -15,7 +15,12 @@ int PixelsFonte(int tamanho)
 
 bool FonteValida(const FonteItem &f)
 {
-    return f.Tamanho >= 1 && !f.Nome.trimmed().isEmpty();
+    if (f.Tamanho < 1)
+        return false;
+    for (QChar c : f.Nome)
+        if (!c.isSpace())
+            return true;
+    return false;
 }
 
 unsigned EstiloDaFonte(const FonteItem &f)

@@ -45,15 +45,31 @@ const QImage &ImagemFigura()
     return img;
 }
 
-const QImage &CacheFiguras::Figura(const QString &nome)
+QString ValorExibido(const QString &texto, const char *exemplo)
 {
-    if (nome.isEmpty())
-        return ImagemFigura();
-    Entrada &e = m_entradas[nome];
+    if (texto.startsWith(QLatin1Char('"'))) {
+        QString v = texto;
+        v.remove(QLatin1Char('"'));
+        return v;
+    }
+    return QString::fromLatin1(exemplo);
+}
+
+const QImage &CacheFiguras::Figura(const QString &texto)
+{
+    if (m_entradas.size() > 4096 && !m_entradas.contains(texto))
+        m_entradas.clear();
+    Entrada &e = m_entradas[texto];
     if (e.passagem != m_passagem) {
         e.passagem = m_passagem;
+        if (e.nome.isNull()) {
+            e.nome = texto;
+            e.nome.remove(QLatin1Char('"'));
+            e.nome = e.nome.trimmed();
+        }
+        const QString &nome = e.nome;
         const QFileInfo info(nome);
-        const bool existe = info.isFile();
+        const bool existe = !nome.isEmpty() && info.isFile();
         const QDateTime modificado = existe ? info.lastModified() : QDateTime();
         const qint64 tamanho = existe ? info.size() : -1;
         if (modificado != e.modificado || tamanho != e.tamanho) {
@@ -75,16 +91,21 @@ const QImage &CacheFiguras::Figura(const QString &nome)
             }
         }
     }
+    if (e.nome.isEmpty())
+        return ImagemFigura();
     return e.ok ? e.imagem : ImagemErro();
 }
 
-const QImage &CacheSimbolos::Simbolo(int tipo, const QString &valor, int alturaBarra, bool mostrarTexto, int angulo)
+const QImage &CacheSimbolos::Simbolo(int tipo, const QString &texto, int alturaBarra, bool mostrarTexto, int angulo)
 {
-    Chave chave{tipo, valor, alturaBarra, mostrarTexto, angulo};
+    // Every field shows the same sample, so fields share one symbol.
+    const bool literal = texto.startsWith(QLatin1Char('"'));
+    Chave chave{tipo, literal ? texto : QString(), alturaBarra, mostrarTexto, angulo};
     auto it = m_simbolos.find(chave);
     if (it == m_simbolos.end()) {
         if (m_simbolos.size() > 4096)
             m_simbolos.clear();
+        const QString valor = ValorExibido(texto, "0123456789");
         it = m_simbolos.insert(std::move(chave), DesenharCodigoBarras(tipo, valor, alturaBarra, mostrarTexto, angulo));
     }
     return it->isNull() ? ImagemErro() : *it;

@@ -15,18 +15,24 @@ const QImage &ImagemErro();
 // `imgFigura`: shown for a picture item without a file name.
 const QImage &ImagemFigura();
 
-// Picture files by path. A repaint starts a new pass; the first use of a path
+// The value a barcode or graph bar shows for an item text: a quoted literal
+// without its quotes, or `exemplo` for a field or command.
+QString ValorExibido(const QString &texto, const char *exemplo);
+
+// Picture files by item text. A repaint starts a new pass; the first use of a path
 // in a pass checks the file again, so a picture changed on disk shows at the
 // next repaint while one repaint never reads the same file twice.
 class CacheFiguras {
 public:
     void NovaPassagem() { ++m_passagem; }
-    // The picture of an item whose text (quotes removed, trimmed) is `nome`:
-    // the placeholder for an empty name, the error picture when it fails.
-    const QImage &Figura(const QString &nome);
+    // The picture of an item text: its file name is the text without double
+    // quotes, trimmed. The placeholder for an empty name, the error picture
+    // when the file cannot be loaded.
+    const QImage &Figura(const QString &texto);
 
 private:
     struct Entrada {
+        QString nome;   // the file name of the item text
         QImage imagem;
         bool ok = false;
         QDateTime modificado;
@@ -40,13 +46,14 @@ private:
 // Barcode symbols by everything that shapes them.
 class CacheSimbolos {
 public:
-    // The symbol of an encoder, or the error picture for an unknown type.
-    const QImage &Simbolo(int tipo, const QString &valor, int alturaBarra, bool mostrarTexto, int angulo);
+    // The symbol of an item text (a quoted value, or the sample
+    // "0123456789" for a field), or the error picture for an unknown type.
+    const QImage &Simbolo(int tipo, const QString &texto, int alturaBarra, bool mostrarTexto, int angulo);
 
 private:
     struct Chave {
         int tipo;
-        QString valor;
+        QString texto;
         int alturaBarra;
         bool mostrarTexto;
         int angulo;
@@ -54,7 +61,7 @@ private:
     };
     friend size_t qHash(const Chave &c, size_t semente) noexcept
     {
-        return qHashMulti(semente, c.tipo, c.valor, c.alturaBarra, c.mostrarTexto, c.angulo);
+        return qHashMulti(semente, c.tipo, c.texto, c.alturaBarra, c.mostrarTexto, c.angulo);
     }
     QHash<Chave, QImage> m_simbolos;
 };

@@ -107,18 +107,6 @@ QPoint Posicionar(QSize tamanho, const QRect &celula, int32_t bits)
     return QPoint(x, y);
 }
 
-// The value a barcode or graph bar shows: a quoted literal without its
-// quotes, or the sample for a field or command.
-QString ValorExibido(const QString &texto, const char *exemplo)
-{
-    if (texto.startsWith(QLatin1Char('"'))) {
-        QString v = texto;
-        v.remove(QLatin1Char('"'));
-        return v;
-    }
-    return QString::fromLatin1(exemplo);
-}
-
 struct Contexto {
     QPainter &p;
     RecursosCanvas &r;
@@ -153,9 +141,7 @@ void PintarBordas(QPainter &p, const Item &it, const QRect &celula, const QColor
 
 void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
 {
-    QString nome = texto;
-    nome.remove(QLatin1Char('"'));
-    const QImage &img = c.r.Figuras.Figura(nome.trimmed());
+    const QImage &img = c.r.Figuras.Figura(texto);
     const QPoint pos = Posicionar(img.size(), celula, Alinhamento(it.Atributos));
     if (QRect(pos, img.size()).intersects(c.area))
         c.p.drawImage(pos, img);
@@ -163,13 +149,12 @@ void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect
 
 void PintarCodigoBarras(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
 {
-    const QString valor = ValorExibido(texto, "0123456789");
     const int angulo = AnguloAtributos(it.Atributos);
     const bool deitado = angulo == 90 || angulo == 270;
     const bool mostrarTexto = MostrarDigitosCodigo(it);
     const int alturaBarra = AlturaBarrasCodigo(it, celula.height());
 
-    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, valor, alturaBarra, mostrarTexto, angulo);
+    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, texto, alturaBarra, mostrarTexto, angulo);
     QSize tamanho = simbolo.size();
     if (&simbolo != &ImagemErro()) {
         const int mag = MagnificacaoAtributos(it.Atributos);
@@ -210,7 +195,7 @@ void PintarTexto(Contexto &c, const Item &it, const FonteItem &fonte, const Core
     if (cores.texto.isEmpty() || it.Largura < 5)
         return;
     const OpcoesTexto op = OpcoesDoItem(it);
-    const QString mostrado = ExpandirMacros(cores.texto, 1);
+    const QString mostrado = TextoExibido(cores.texto);
     const QColor cor = ResolverCor(it.CorTexto, cores.frente);
     const double x = celula.x() + 2, y = celula.y(), w = it.Largura - 4, h = celula.height();
     if (!celulaVisivel) {
@@ -238,7 +223,9 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
     if (!celulaVisivel && !transborda)
         return;
 
-    const CoresMacro cores = it.Texto.contains(QLatin1String("<%_")) ? MacroColor(it.Texto) : CoresMacro{it.Texto};
+    const CoresMacro cores = it.Texto.contains(QLatin1Char('<')) && it.Texto.contains(QLatin1String("<%_"))
+        ? MacroColor(it.Texto)
+        : CoresMacro{it.Texto};
     const QRect celula(esquerda, topo, it.Largura, fundo - topo);
 
     if (celulaVisivel) {

@@ -503,7 +503,12 @@ void frmLumetaEdit::ligarSessao()
         }
         picPagina->update();
     };
-    g.MostrarResultado = [this](const QString &t) { mostrarTextoResultado(t); };
+    g.MostrarResultado = [this](const QString &t) {
+        mostrarTextoResultado(t);
+        // Every repaint ends here, so the undo shortcut follows the ring
+        // without waiting for the menu to open.
+        prepararMenuEditar();
+    };
     g.SelecionarItem = [this] { MostrarSelecao(); };
     g.RolagemInicial = [this] {
         hsbPagina->setValue(0);
@@ -520,6 +525,7 @@ void frmLumetaEdit::ligarSessao()
     // The canvas and the result pane show the document the session already holds.
     picPagina->resize(m_sessao.Canvas.Tamanho);
     mostrarTextoResultado(m_sessao.TextoResultado);
+    connect(qApp, &QApplication::focusChanged, this, [this] { prepararMenuEditar(); });
     atualizarUnidade();
     atualizarResultado();
     atualizarOpcoes();

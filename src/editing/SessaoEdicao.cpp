@@ -2,6 +2,7 @@
 
 #include "controls/ModuloAssociar.h"
 #include "document/ModuloLumetaEdit.h"
+#include "output/CopiarComo.h"
 #include "output/TextoComandos.h"
 
 #include <QDir>
@@ -112,6 +113,7 @@ bool SessaoEdicao::Iniciar(const QStringList &argumentos, const QString &pastaPr
 
     Config.Ler();
     FontePadrao = Config.FontePadrao;
+    UnidadeAtual = UnidadeDe(Config.UnidadeMedida, UnidadeAtual.rotulo);
     chamar(Ganchos.ConfiguracoesLidas);
     chamar(Ganchos.UnidadeAlterada);
     chamar(Ganchos.ResultadoAlternado);
@@ -311,6 +313,7 @@ void SessaoEdicao::DefinirTipoEmail(int tipo)
 void SessaoEdicao::DefinirUnidade(int codigo)
 {
     Config.UnidadeMedida = codigo;
+    UnidadeAtual = UnidadeDe(codigo, UnidadeAtual.rotulo);
     chamar(Ganchos.UnidadeAlterada);
 }
 
@@ -341,6 +344,12 @@ void SessaoEdicao::DefinirCPY(const QString &linguagem)
 {
     Config.CPY = linguagem;
     Config.GravarCPY();
+}
+
+QString SessaoEdicao::LerCPY()
+{
+    Config.CPY = LerConfigCPY();
+    return Config.CPY;
 }
 
 }  // namespace lumeta

@@ -7,6 +7,7 @@
 // tests drive the same operations with a scripted user.
 
 #include "canvas/Pintor.h"
+#include "canvas/Unidades.h"
 #include "controls/clsConcatenarString.h"
 #include "document/Desfazer.h"
 #include "document/Sessao.h"
@@ -43,6 +44,7 @@ public:
     CanvasPagina Canvas;            // size of the page canvas, full-size flag
     RecursosCanvas Recursos;        // fonts, measured heights, pictures, symbols
     ResultadoRepintura UltimaRepintura;
+    Unidade UnidadeAtual;           // factor, decimals and label of the unit setting
     AnelDesfazer Desfazer;
     QString TextoResultado;         // the command text last shown
     QString ArquivoTransferencia;   // clipboard exchange file, fixed at start-up
@@ -98,12 +100,17 @@ public:
     // with a footer band.
     bool AlternarQuebraPaginaFinal();
     void DefinirTipoEmail(int tipo);
+    // The unit setting and the unit refresh: factor, decimals and label (an
+    // unknown code behaves as pixels and keeps the label shown before).
     void DefinirUnidade(int codigo);
     void AlternarResultado();
     void AlternarFontesImpressora();
     void DefinirFontePadrao(const QString &nome, double tamanho, bool negrito, bool italico,
                             bool sublinhado, bool tachado);
     void DefinirCPY(const QString &linguagem);
+    // The "CPY" setting as the store holds it now (the menu reads it each
+    // time it opens).
+    QString LerCPY();
 
 protected:
     void AposCarregar() override;

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
@@ -225,7 +226,14 @@ TEST(frmLumetaEdit, PainelDeResultadoAposNovoEAlternanciaDoArquivoTexto)
     EXPECT_TRUE(j.janela.rtbResultado->toPlainText().contains(QStringLiteral("\nSV\n")));
     EXPECT_TRUE(j.janela.Sessao().Alterado);
 
-    // The pane's pop-up menu: Copy only with a selection.
+    // The pane's pop-up menu opens when the right button is released over it.
+    QWidget *area = j.janela.rtbResultado->viewport();
+    QMouseEvent solta(QEvent::MouseButtonRelease, QPointF(20, 20), area->mapToGlobal(QPointF(20, 20)),
+                      Qt::RightButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(area, &solta);
+    EXPECT_TRUE(j.janela.mnuPopup->isVisible());
+    j.janela.mnuPopup->hide();
+    // Copy only with a selection.
     emit j.janela.mnuPopup->aboutToShow();
     EXPECT_FALSE(j.acao("mnuPopupCopiar")->isEnabled());
     j.acao("mnuPopupSelecionar")->trigger();

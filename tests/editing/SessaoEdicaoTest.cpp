@@ -467,7 +467,15 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
     EXPECT_EQ(unidades, 1);
     EXPECT_EQ(resultados, 1);
 
+    EXPECT_EQ(s.UnidadeAtual.rotulo, QStringLiteral("px"));
+    s.DefinirUnidade(UnidadePolegadas);
+    EXPECT_EQ(s.UnidadeAtual.rotulo, QStringLiteral("pol"));
+    EXPECT_EQ(s.UnidadeAtual.decimais, 5);
+    s.DefinirUnidade(4);     // unknown: pixels, the label stays
+    EXPECT_EQ(s.UnidadeAtual.fator, 1.0);
+    EXPECT_EQ(s.UnidadeAtual.rotulo, QStringLiteral("pol"));
     s.DefinirUnidade(UnidadeMilimetros);
+    EXPECT_EQ(s.UnidadeAtual.rotulo, QStringLiteral("mm"));
     s.AlternarResultado();
     s.AlternarFontesImpressora();
     s.Config.MagicItem = false;
@@ -481,7 +489,7 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
     s.AddItem(1, false, 0);
     EXPECT_EQ(s.Documento.banda(1).Itens.last().Fonte.Nome, QStringLiteral("Courier New"));
     EXPECT_TRUE(s.Documento.banda(1).Itens.last().Fonte.Negrito);
-    EXPECT_EQ(unidades, 2);
+    EXPECT_EQ(unidades, 4);
     EXPECT_EQ(resultados, 2);
 
     QFile previa(s.ArquivoVisualizacao);
@@ -578,6 +586,11 @@ TEST(SessaoEdicao, OpcoesDoMenuConfigurarMudamODocumentoEOTexto)
     s.DefinirCPY(QStringLiteral("Cobol"));
     std::unique_ptr<QSettings> st(AbrirConfig());
     EXPECT_EQ(st->value(QStringLiteral("CPY")).toString(), QStringLiteral("Cobol"));
+    // Another window may have chosen another one since: the store wins.
+    st->setValue(QStringLiteral("CPY"), QStringLiteral("Java"));
+    st->sync();
+    EXPECT_EQ(s.LerCPY(), QStringLiteral("Java"));
+    EXPECT_EQ(s.Config.CPY, QStringLiteral("Java"));
 }
 
 TEST(ModuloLumetaEdit, CaminhoLongoETemporaria)

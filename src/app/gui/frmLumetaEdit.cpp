@@ -679,7 +679,7 @@ void frmLumetaEdit::prepararMenuConfig()
         a->deleteLater();
     }
     m_cpyTipos.clear();
-    const QString atual = m_sessao.Config.CPY;
+    const QString atual = m_sessao.LerCPY();
     const QStringList linguagens = ListarLinguagens();
     bool marcado = false;
     for (qsizetype k = 0; k < linguagens.size(); ++k) {

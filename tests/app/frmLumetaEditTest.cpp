@@ -377,7 +377,6 @@ TEST(frmLumetaEdit, MenuConfigurarReconstroiOsCpyERecusaQuebraComRodape)
     QFile::remove(pasta + QStringLiteral("/Cobol.lin"));
     j.acao("mnuConfigCpyTipo(1)")->trigger();
     emit j.janela.mnuConfig->aboutToShow();
-    QApplication::processEvents();
     EXPECT_EQ(NomesDoMenu(cpy), QStringList({"mnuConfigCpyNenhum", "mnuConfigCpyTipo(1)"}));
     EXPECT_TRUE(j.acao("mnuConfigCpyTipo(1)")->isChecked());
     EXPECT_EQ(QSettings(j.cfg.ArquivoIni(), QSettings::IniFormat).value(QStringLiteral("CPY")).toString(),

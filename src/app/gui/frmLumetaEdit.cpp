@@ -75,6 +75,8 @@ frmLumetaEdit::frmLumetaEdit(InterfaceUsuario *ui, QWidget *pai)
 
 frmLumetaEdit::~frmLumetaEdit()
 {
+    // Deleting the widgets moves the focus; the session is gone by then.
+    disconnect(qApp, nullptr, this, nullptr);
     m_roda.RemoverRoda();
     // The hooks point into this window; the session outlives the widgets by
     // a few statements of the destructor.
@@ -676,6 +678,7 @@ void frmLumetaEdit::prepararMenuConfig()
     for (QAction *a : m_cpyTipos) {
         m_grupoCpy->removeAction(a);
         cpy->removeAction(a);
+        a->setObjectName(QString());   // its name goes to the new entry at once
         a->deleteLater();
     }
     m_cpyTipos.clear();
@@ -706,6 +709,7 @@ void frmLumetaEdit::prepararCopiarComo()
     QMenu *como = findChild<QMenu *>(QStringLiteral("mnuEditarCopiarComo"));
     for (QAction *a : m_copiarComoTipos) {
         como->removeAction(a);
+        a->setObjectName(QString());
         a->deleteLater();
     }
     m_copiarComoTipos.clear();

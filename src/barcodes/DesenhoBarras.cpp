@@ -1,0 +1,126 @@
+#include "barcodes/DesenhoBarras.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <algorithm>
+
+namespace lumeta {
+
+QPoint RotacionarPonto(int x, int y, int largura, int altura, int angulo)
+{
+    switch (angulo) {
+    case 90:
+        return {y, largura - x - 1};
+    case 180:
+        return {largura - x - 1, altura - y - 1};
+    case 270:
+        return {altura - y - 1, x};
+    default:
+        return {x, y};
+    }
+}
+
+std::string ExpandirLarguras(std::string_view larguras)
+{
+    std::string m;
+    bool barra = true;
+    for (const char c : larguras) {
+        m.append(std::size_t(c - '0'), barra ? '1' : '0');
+        barra = !barra;
+    }
+    return m;
+}
+
+std::string ExpandirLargoEstreito(std::string_view padrao)
+{
+    std::string m;
+    bool barra = true;
+    for (const char c : padrao) {
+        m.append(c == 'w' ? 3 : 1, barra ? '1' : '0');
+        barra = !barra;
+    }
+    return m;
+}
+
+QFont FonteLinhaLegivel(int angulo)
+{
+    QFont f(QStringLiteral("Arial"));
+    f.setPixelSize(11);
+    const bool girada = angulo == 90 || angulo == 180 || angulo == 270;
+    f.setWeight(girada ? QFont::Medium : QFont::Normal);
+    // Pictures are black on white only: they are stretched by whole factors
+    // and any grey would smear into the bars.
+    f.setStyleStrategy(QFont::NoAntialias);
+    return f;
+}
+
+DesenhoBarras::DesenhoBarras(QImage &figura, int angulo)
+    : m_figura(figura), m_angulo(angulo)
+{
+}
+
+void DesenhoBarras::Dimensionar(int largura, int altura)
+{
+    m_largura = std::max(largura, 1);
+    m_altura = std::max(altura, 1);
+    if (AnguloDeitado(m_angulo))
+        m_figura = QImage(m_altura, m_largura, QImage::Format_RGB32);
+    else
+        m_figura = QImage(m_largura, m_altura, QImage::Format_RGB32);
+    m_figura.fill(Qt::white);
+}
+
+void DesenhoBarras::PintarPixel(int px, int py, QRgb cor)
+{
+    if (px < 0 || py < 0 || px >= m_largura || py >= m_altura)
+        return;
+    const QPoint p = RotacionarPonto(px, py, m_largura, m_altura, m_angulo);
+    m_figura.setPixel(p, cor);
+}
+
+void DesenhoBarras::Modulos(std::string_view modulos, int topo, int comprimento, bool pintarEspacos)
+{
+    const QRgb preto = qRgb(0, 0, 0);
+    const QRgb branco = qRgb(255, 255, 255);
+    for (const char c : modulos) {
+        ++x;
+        if (c != '1' && !pintarEspacos)
+            continue;
+        const QRgb cor = c == '1' ? preto : branco;
+        for (int y = topo; y < topo + comprimento; ++y)
+            PintarPixel(x, y, cor);
+    }
+}
+
+int DesenhoBarras::LarguraTexto(const QString &texto) const
+{
+    return QFontMetrics(FonteLinhaLegivel(m_angulo)).horizontalAdvance(texto);
+}
+
+void DesenhoBarras::Texto(double tx, int ty, const QString &texto)
+{
+    if (texto.isEmpty())
+        return;
+    // The line is set upright and then turned pixel by pixel with the bars, so
+    // the digits look the same from every side and keep their place exactly.
+    // Only the glyphs are copied: the text has no background.
+    QImage capa(m_largura, m_altura, QImage::Format_RGB32);
+    capa.fill(Qt::white);
+    {
+        QPainter p(&capa);
+        const QFont f = FonteLinhaLegivel(m_angulo);
+        p.setFont(f);
+        p.setPen(Qt::black);
+        // Centred texts fall on half pixels; the line snaps to the nearest column.
+        p.drawText(QPointF(qRound(tx), ty + QFontMetrics(f).ascent()), texto);
+    }
+    const QRgb preto = qRgb(0, 0, 0);
+    for (int y = 0; y < m_altura; ++y) {
+        const auto *linha = reinterpret_cast<const QRgb *>(capa.constScanLine(y));
+        for (int x = 0; x < m_largura; ++x)
+            if (qGray(linha[x]) < 128)
+                PintarPixel(x, y, preto);
+    }
+}
+
+}  // namespace lumeta

@@ -1,0 +1,363 @@
+// Module strings, check characters and painted pixels of the linear
+// symbologies. The expected module strings are spelled out from the
+// symbologies' published tables, not taken from the encoders.
+
+#include "barcodes/CodigoBarras.h"
+#include "barcodes/DesenhoBarras.h"
+#include "barcodes/ModCode128.h"
+#include "barcodes/ModCode128b.h"
+#include "barcodes/ModCode39.h"
+#include "barcodes/ModEAN13and8.h"
+#include "barcodes/ModInterlace25.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+using namespace lumeta;
+
+namespace {
+
+bool Preto(const QImage &img, int x, int y)
+{
+    return img.pixel(x, y) == qRgb(0, 0, 0);
+}
+
+bool Branco(const QImage &img, int x, int y)
+{
+    return img.pixel(x, y) == qRgb(255, 255, 255);
+}
+
+// The column of module i is x0 + i; each "1" is black and each "0" white on
+// every row from topo through topo + altura - 1.
+void ConferirModulos(const QImage &img, const std::string &modulos, int x0, int topo, int altura)
+{
+    for (std::size_t i = 0; i < modulos.size(); ++i)
+        for (int y = topo; y < topo + altura; ++y) {
+            const int x = x0 + int(i);
+            ASSERT_EQ(Preto(img, x, y), modulos[i] == '1') << "module " << i << " at (" << x << ", " << y << ")";
+            if (modulos[i] == '0') {
+                ASSERT_TRUE(Branco(img, x, y)) << "module " << i << " at (" << x << ", " << y << ")";
+            }
+        }
+}
+
+int PixelsPretos(const QImage &img, int x0, int y0, int x1, int y1)
+{
+    int n = 0;
+    for (int y = y0; y <= y1; ++y)
+        for (int x = x0; x <= x1; ++x)
+            n += Preto(img, x, y) ? 1 : 0;
+    return n;
+}
+
+// Code 39 characters, wide elements 3 modules, plus the one-module gap.
+const std::string k39Asterisco = "1000101110111010";
+const std::string k39A = "1110101000101110";
+const std::string k39B = "1011101000101110";
+const std::string k39C = "1110111010001010";
+const std::string k39X = "1000101110101110";  // nwnnwnnnw
+const std::string k39Espaco = "1000111010111010";
+const std::string k39Zero = "1010001110111010";
+
+}  // namespace
+
+TEST(RotacionarPonto, QuatroAngulosEOutrosDeixamOPonto)
+{
+    // A symbol 10 wide and 4 high; the point (2, 1).
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, 0), QPoint(2, 1));
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, 90), QPoint(1, 7));
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, 180), QPoint(7, 2));
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, 270), QPoint(2, 2));
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, 45), QPoint(2, 1));
+    EXPECT_EQ(RotacionarPonto(2, 1, 10, 4, -90), QPoint(2, 1));
+    // The corners of the unrotated symbol stay inside the H x W picture.
+    EXPECT_EQ(RotacionarPonto(9, 3, 10, 4, 90), QPoint(3, 0));
+    EXPECT_EQ(RotacionarPonto(0, 0, 10, 4, 270), QPoint(3, 0));
+    EXPECT_EQ(RotacionarPonto(9, 3, 10, 4, 270), QPoint(0, 9));
+}
+
+TEST(Code39, LimpezaTabelaEVerificador)
+{
+    EXPECT_EQ(LimparValorCode39(QStringLiteral("ab*c")), QStringLiteral("ABC"));
+    EXPECT_EQ(LimparValorCode39(QStringLiteral("a_b")), QStringLiteral("A B"));
+    EXPECT_EQ(LimparValorCode39(QStringLiteral("**")), QString());
+    EXPECT_EQ(LimparValorCode39(QStringLiteral("é-1.$/+%ß")), QStringLiteral(" -1.$/+% "));
+
+    EXPECT_EQ(ModulosCaractereCode39(0), k39Zero);
+    EXPECT_EQ(ModulosCaractereCode39(43), k39Asterisco);
+    for (int i = 0; i < 44; ++i) {
+        const std::string &m = ModulosCaractereCode39(i);
+        ASSERT_EQ(m.size(), 16u) << i;
+        EXPECT_EQ(m.back(), '0') << i;
+    }
+
+    EXPECT_EQ(ModulosCode39(LimparValorCode39(QStringLiteral("ab*c")), false),
+              k39Asterisco + k39A + k39B + k39C + k39Asterisco);
+    EXPECT_EQ(ModulosCode39(LimparValorCode39(QStringLiteral("a_b")), false),
+              k39Asterisco + k39A + k39Espaco + k39B + k39Asterisco);
+    // A is 10: the sum is 10 and the check character is A again.
+    EXPECT_EQ(CaractereVerificadorCode39(QStringLiteral("A")), QLatin1Char('A'));
+    EXPECT_EQ(ModulosCode39(QStringLiteral("A"), true), k39Asterisco + k39A + k39A + k39Asterisco);
+    // 10 + 11 + 12 = 33, X.
+    EXPECT_EQ(CaractereVerificadorCode39(QStringLiteral("ABC")), QLatin1Char('X'));
+    EXPECT_EQ(ModulosCode39(QStringLiteral("ABC"), true), k39Asterisco + k39A + k39B + k39C + k39X + k39Asterisco);
+    // 43 wraps to 0: "%" is 42, "1" is 1.
+    EXPECT_EQ(CaractereVerificadorCode39(QStringLiteral("%1")), QLatin1Char('0'));
+    // Nothing to encode: start and stop only.
+    EXPECT_EQ(ModulosCode39(QString(), false), k39Asterisco + k39Asterisco);
+}
+
+TEST(Code39, PixelsLarguraELinhaLegivel)
+{
+    QImage img;
+    DesenharCode39(img, 40, QStringLiteral("ab*c"), false, true, 0);
+    ASSERT_EQ(img.size(), QSize(5 * 16 + 1, 52));
+    ConferirModulos(img, k39Asterisco + k39A + k39B + k39C + k39Asterisco, 1, 0, 40);
+    for (int y = 0; y < img.height(); ++y)
+        EXPECT_TRUE(Branco(img, 0, y)) << y;
+    // The digits sit below the bars, roughly centred on the symbol.
+    int esquerda = img.width(), direita = -1;
+    for (int y = 40; y < 52; ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if (Preto(img, x, y)) {
+                esquerda = std::min(esquerda, x);
+                direita = std::max(direita, x);
+            }
+    ASSERT_GE(direita, 0);
+    EXPECT_NEAR((esquerda + direita) / 2.0, 40.0, 2.5);
+    // Every pixel is black or white.
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            ASSERT_TRUE(Preto(img, x, y) || Branco(img, x, y)) << x << "," << y;
+
+    DesenharCode39(img, 40, QStringLiteral("A"), true, false, 0);
+    ASSERT_EQ(img.size(), QSize(4 * 16 + 1, 40));
+    ConferirModulos(img, k39Asterisco + k39A + k39A + k39Asterisco, 1, 0, 40);
+
+    DesenharCode39(img, 30, QString(), false, true, 0);
+    EXPECT_EQ(img.size(), QSize(33, 42));
+    EXPECT_EQ(PixelsPretos(img, 0, 30, 32, 41), 0);
+}
+
+TEST(Code128C, LimpezaValoresEModulos)
+{
+    EXPECT_EQ(LimparValorCode128C(QStringLiteral("123")), QStringLiteral("0123"));
+    EXPECT_EQ(LimparValorCode128C(QStringLiteral("12a4")), QStringLiteral("1204"));
+    EXPECT_EQ(LimparValorCode128C(QStringLiteral("  12 ")), QStringLiteral("12"));
+    EXPECT_EQ(LimparValorCode128C(QStringLiteral("1 2")), QStringLiteral("0102"));
+    EXPECT_EQ(LimparValorCode128C(QString()), QString());
+
+    EXPECT_EQ(ModulosSimboloCode128(0), "11011001100");
+    EXPECT_EQ(ModulosSimboloCode128(kStartBCode128), "11010010000");
+    EXPECT_EQ(ModulosSimboloCode128(kStartCCode128), "11010011100");
+    EXPECT_EQ(ModulosParadaCode128(), "1100011101011");
+
+    // 105 + 1 x 1 + 2 x 23 = 152; 152 mod 103 = 49.
+    EXPECT_EQ(ValoresCode128C(QStringLiteral("0123")), (QList<int>{105, 1, 23, 49}));
+    EXPECT_EQ(ModulosCode128C(QStringLiteral("0123")),
+              std::string("11010011100") + "11001101100" + "11101101110" + "11010001110" + "1100011101011");
+    // 105 + 12 + 2 x 4 = 125; 125 mod 103 = 22.
+    EXPECT_EQ(ValoresCode128C(QStringLiteral("1204")), (QList<int>{105, 12, 4, 22}));
+    EXPECT_EQ(ModulosCode128C(QStringLiteral("1204")),
+              std::string("11010011100") + "10110011100" + "10010001100" + "11001110100" + "1100011101011");
+    // No digits: start C, check 105 mod 103 = 2, stop.
+    EXPECT_EQ(ValoresCode128C(QString()), (QList<int>{105, 2}));
+
+    QImage img;
+    DesenharCode128C(img, 40, QStringLiteral("123"), true, 0);
+    const std::string m = ModulosCode128C(QStringLiteral("0123"));
+    ASSERT_EQ(img.size(), QSize(int(m.size()) + 2, 52));
+    ConferirModulos(img, m, 1, 0, 40);
+    // Two columns stay free on the right: the last module is the stop's bar.
+    for (int y = 0; y < 40; ++y) {
+        EXPECT_TRUE(Preto(img, int(m.size()), y));
+        EXPECT_TRUE(Branco(img, int(m.size()) + 1, y));
+    }
+}
+
+TEST(Code128B, LimpezaValoresEModulos)
+{
+    EXPECT_EQ(LimparValorCode128B(QStringLiteral("Olá\t~ ")), QStringLiteral("Ol00~ "));
+    // Start B, A = 33, b = 66; 104 + 33 + 2 x 66 = 269; 269 mod 103 = 63.
+    EXPECT_EQ(ValoresCode128B(QStringLiteral("Ab")), (QList<int>{104, 33, 66, 63}));
+    EXPECT_EQ(ModulosCode128B(QStringLiteral("Ab")),
+              std::string("11010010000") + "10100011000" + "10010000110" + "10100110000" + "1100011101011");
+    // Space is 0 and "~" is 94.
+    EXPECT_EQ(ValoresCode128B(QStringLiteral(" ~")), (QList<int>{104, 0, 94, (104 + 2 * 94) % 103}));
+
+    QImage img;
+    DesenharCode128B(img, 20, QStringLiteral("Ab"), false, 0);
+    ASSERT_EQ(img.size(), QSize(2 * 11 + 37, 20));
+    ConferirModulos(img, ModulosCode128B(QStringLiteral("Ab")), 1, 0, 20);
+    DesenharCode128B(img, 20, QString(), true, 0);
+    EXPECT_EQ(img.size(), QSize(37, 32));
+}
+
+TEST(EAN, LimpezaVerificadorEModulos)
+{
+    EXPECT_EQ(LimparValorEAN(QStringLiteral("123"), 12), QStringLiteral("000000000123"));
+    EXPECT_EQ(LimparValorEAN(QStringLiteral("5901234123457"), 12), QStringLiteral("590123412345"));
+    EXPECT_EQ(LimparValorEAN(QStringLiteral("12x4"), 7), QStringLiteral("0001204"));
+    EXPECT_EQ(LimparValorEAN(QString(), 12), QStringLiteral("000000000000"));
+    EXPECT_EQ(DigitoVerificadorEAN(QStringLiteral("000000000123")), 6);
+    EXPECT_EQ(DigitoVerificadorEAN(QStringLiteral("590123412345")), 7);
+    EXPECT_EQ(DigitoVerificadorEAN(QStringLiteral("1234567")), 0);
+    EXPECT_EQ(DigitoVerificadorEAN(QStringLiteral("000000000000")), 0);
+
+    const std::string L0 = "0001101";
+    EXPECT_EQ(ModulosEAN13(QStringLiteral("000000000123")),
+              "101" + L0 + L0 + L0 + L0 + L0 + L0 + "01010"
+                  + "1110010" + "1110010" + "1100110" + "1101100" + "1000010" + "1010000" + "101");
+    // First digit 5: digits 2-7 in L G G L L G.
+    EXPECT_EQ(ModulosEAN13(QStringLiteral("590123412345")),
+              std::string("101") + "0001011" + "0100111" + "0110011" + "0010011" + "0111101" + "0011101" + "01010"
+                  + "1100110" + "1101100" + "1000010" + "1011100" + "1001110" + "1000100" + "101");
+    EXPECT_EQ(ModulosEAN8(QStringLiteral("1234567")),
+              std::string("101") + "0011001" + "0010011" + "0111101" + "0100011" + "01010"
+                  + "1001110" + "1010000" + "1000100" + "1110010" + "101");
+}
+
+TEST(EAN, PixelsGuardasMaisLongasEPosicaoDosDigitos)
+{
+    QImage img;
+    const std::string m13 = ModulosEAN13(QStringLiteral("590123412345"));
+    ASSERT_EQ(m13.size(), 95u);
+
+    DesenharEAN13(img, 40, QStringLiteral("590123412345"), false, 0);
+    ASSERT_EQ(img.size(), QSize(96, 40));
+    ConferirModulos(img, m13, 1, 0, 40);
+
+    DesenharEAN13(img, 40, QStringLiteral("590123412345"), true, 0);
+    ASSERT_EQ(img.size(), QSize(106, 52));
+    ConferirModulos(img, m13, 11, 0, 40);
+    // Guard bars (start 11, 13; centre 57, 59; end 103, 105) run down the
+    // whole picture; data bars stop at the bar height and the rows below the
+    // digits are white.
+    for (const int x : {11, 13, 57, 59, 103, 105})
+        for (int y = 40; y < 52; ++y)
+            EXPECT_TRUE(Preto(img, x, y)) << x << "," << y;
+    for (int x = 14; x < 57; ++x)
+        for (int y = 49; y < 52; ++y)
+            EXPECT_TRUE(Branco(img, x, y)) << x << "," << y;
+    // The first digit stands left of the symbol, the others under their halves.
+    EXPECT_GT(PixelsPretos(img, 0, 40, 10, 51), 0);
+    EXPECT_GT(PixelsPretos(img, 15, 40, 55, 51), 0);
+    EXPECT_GT(PixelsPretos(img, 61, 40, 101, 51), 0);
+
+    DesenharEAN8(img, 30, QStringLiteral("1234567"), true, 0);
+    ASSERT_EQ(img.size(), QSize(78, 42));
+    ConferirModulos(img, ModulosEAN8(QStringLiteral("1234567")), 11, 0, 30);
+    for (const int x : {11, 13, 43, 45, 75, 77})
+        for (int y = 30; y < 42; ++y)
+            EXPECT_TRUE(Preto(img, x, y)) << x << "," << y;
+    // EAN-8 has no digit outside its guards.
+    EXPECT_EQ(PixelsPretos(img, 0, 0, 10, 41), 0);
+    EXPECT_GT(PixelsPretos(img, 14, 30, 42, 41), 0);
+    EXPECT_GT(PixelsPretos(img, 47, 30, 74, 41), 0);
+
+    DesenharEAN8(img, 30, QStringLiteral("1234567"), false, 0);
+    ASSERT_EQ(img.size(), QSize(68, 30));
+    ConferirModulos(img, ModulosEAN8(QStringLiteral("1234567")), 1, 0, 30);
+    // An empty value is all zeros, check digit 0.
+    DesenharEAN13(img, 30, QString(), false, 0);
+    ConferirModulos(img, ModulosEAN13(QStringLiteral("000000000000")), 1, 0, 30);
+}
+
+TEST(Interlace25, LimpezaModulosETextoNoTopo)
+{
+    EXPECT_EQ(LimparValorInterlace25(QStringLiteral("12345")), QStringLiteral("012345"));
+    EXPECT_EQ(LimparValorInterlace25(QStringLiteral("1a")), QStringLiteral("10"));
+    EXPECT_EQ(LimparValorInterlace25(QStringLiteral(" 12")), QStringLiteral("0012"));
+    EXPECT_EQ(ModulosParInterlace25(0), "101011100011100010");
+    for (int p = 0; p < 100; ++p)
+        ASSERT_EQ(ModulosParInterlace25(p).size(), 18u) << p;
+    // 01: bars of 0 (nnwwn) with spaces of 1 (wnnnw); 23; 45.
+    const std::string m = std::string("1010") + "100010111011101000" + "100011100010101110"
+                          + "100010111000101110" + "11101";
+    EXPECT_EQ(ModulosInterlace25(QStringLiteral("012345")), m);
+
+    QImage img;
+    DesenharInterlace25(img, 40, QStringLiteral("12345"), true, false, 0);
+    ASSERT_EQ(img.size(), QSize(64, 52));
+    ConferirModulos(img, m, 1, 0, 40);
+    EXPECT_GT(PixelsPretos(img, 0, 40, 63, 51), 0);
+
+    // Digits on top: bars move 12 rows down, the text takes the first rows.
+    DesenharInterlace25(img, 40, QStringLiteral("12345"), true, true, 0);
+    ASSERT_EQ(img.size(), QSize(64, 52));
+    ConferirModulos(img, m, 1, 12, 40);
+    EXPECT_GT(PixelsPretos(img, 0, 0, 63, 11), 0);
+    for (int y = 0; y < 12; ++y)
+        EXPECT_TRUE(Branco(img, 1, y)) << y;
+
+    DesenharInterlace25(img, 40, QStringLiteral("12345"), false, false, 0);
+    ASSERT_EQ(img.size(), QSize(64, 40));
+    ConferirModulos(img, m, 1, 0, 40);
+}
+
+TEST(CodigoBarras, TamanhosExatosPorTipoEAngulo)
+{
+    struct Caso {
+        int tipo;
+        const char *valor;
+        QSize comTexto, semTexto;
+    };
+    const Caso casos[] = {
+        {31, "590123412345", {106, 52}, {96, 40}},
+        {32, "1234567", {78, 52}, {68, 40}},
+        {33, "ABC", {97, 52}, {97, 40}},
+        {34, "123", {59, 52}, {59, 40}},
+        {35, "12345", {64, 52}, {64, 40}},
+        {36, "ABC", {81, 52}, {81, 40}},
+        {37, "12345", {64, 52}, {64, 52}},  // never digits: the bars take their rows
+        {38, "12345", {64, 52}, {64, 40}},
+        {39, "Ab", {59, 52}, {59, 40}},
+        {35, "", {10, 52}, {10, 40}},
+        {36, "", {33, 52}, {33, 40}},
+    };
+    for (const Caso &c : casos)
+        for (const int angulo : {0, 90, 180, 270})
+            for (const bool texto : {true, false}) {
+                const QImage img = DesenharCodigoBarras(c.tipo, QString::fromUtf8(c.valor), 40, texto, angulo);
+                QSize esperado = texto ? c.comTexto : c.semTexto;
+                if (angulo == 90 || angulo == 270)
+                    esperado.transpose();
+                EXPECT_EQ(img.size(), esperado) << c.tipo << " " << c.valor << " " << angulo << " " << texto;
+            }
+    EXPECT_TRUE(DesenharCodigoBarras(60, QStringLiteral("10"), 40, true, 0).isNull());
+    EXPECT_TRUE(DesenharCodigoBarras(0, QStringLiteral("x"), 40, true, 0).isNull());
+    EXPECT_FALSE(EhCodigoBarras(30));
+    EXPECT_FALSE(EhCodigoBarras(60));
+    EXPECT_TRUE(EhCodigoBarras(31));
+    EXPECT_TRUE(EhCodigoBarras(39));
+    EXPECT_TRUE(EhCodigoBarras(80));
+    // A bar height below 1 still gives a drawable picture.
+    EXPECT_EQ(DesenharCodigoBarras(36, QStringLiteral("A"), -5, false, 0).size(), QSize(49, 1));
+}
+
+TEST(CodigoBarras, GiroLevaCadaPixelPelaRegraDoPonto)
+{
+    // Bars and digits alike: the turned picture is the upright one seen from
+    // another side, pixel for pixel.
+    struct Caso {
+        int tipo;
+        const char *valor;
+    };
+    const Caso casos[] = {
+        {31, "590123412345"}, {32, "1234567"}, {33, "ab*c"}, {34, "12a4"}, {35, "12345"},
+        {36, "a_b"},          {37, "12345"},   {38, "12345"}, {39, "Olá ~"},
+    };
+    for (const Caso &c : casos) {
+        const QString valor = QString::fromUtf8(c.valor);
+        const QImage reto = DesenharCodigoBarras(c.tipo, valor, 40, true, 0);
+        const int w = reto.width(), h = reto.height();
+        for (const int angulo : {90, 180, 270}) {
+            const QImage girado = DesenharCodigoBarras(c.tipo, valor, 40, true, angulo);
+            int diferentes = 0;
+            for (int y = 0; y < h; ++y)
+                for (int x = 0; x < w; ++x)
+                    diferentes += reto.pixel(x, y) != girado.pixel(RotacionarPonto(x, y, w, h, angulo)) ? 1 : 0;
+            EXPECT_EQ(diferentes, 0) << c.tipo << " at " << angulo;
+        }
+    }
+}

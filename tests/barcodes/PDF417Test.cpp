@@ -1,0 +1,202 @@
+// PDF417: our matrix layer over the encoder library, the drawing of a
+// matrix, and whole symbols read back by an independent decoder.
+
+#include "barcodes/CodigoBarras.h"
+#include "barcodes/DesenhoBarras.h"
+#include "barcodes/LeitorCodigoBarras.h"
+#include "barcodes/ModPDF417.h"
+#include "document/Texto1252.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+using lumeta::teste::LerCodigoBarras;
+using ZXing::BarcodeFormat;
+
+namespace {
+
+bool Modulo(const QByteArray &m, int porLinha, int linha, int x)
+{
+    return (static_cast<unsigned char>(m[qsizetype(linha) * porLinha + x / 8]) >> (7 - x % 8)) & 1;
+}
+
+std::string LinhaComoTexto(const QByteArray &m, int porLinha, int linha, int de, int ate)
+{
+    std::string s;
+    for (int x = de; x < ate; ++x)
+        s += Modulo(m, porLinha, linha, x) ? '1' : '0';
+    return s;
+}
+
+bool Preto(const QImage &img, int x, int y)
+{
+    return img.pixel(x, y) == qRgb(0, 0, 0);
+}
+
+void ConferirFiguraVazia(const QImage &img)
+{
+    ASSERT_EQ(img.size(), QSize(8, 8));
+    for (int y = 0; y < 8; ++y)
+        for (int x = 0; x < 8; ++x)
+            ASSERT_EQ(img.pixel(x, y), qRgb(255, 255, 255));
+}
+
+}  // namespace
+
+TEST(PDF417, MatrizLinhaALinhaComBitMaisSignificativoAEsquerda)
+{
+    QByteArray m;
+    int numBytes = -1, largura = -1;
+    ASSERT_NE(GetPDF417(QByteArray("LumetaEdit"), m, numBytes, largura), 0);
+    ASSERT_GT(largura, 0);
+    const int porLinha = BytesPorLinhaPDF417(largura);
+    EXPECT_EQ(numBytes, m.size());
+    ASSERT_EQ(numBytes % porLinha, 0);
+    const int linhas = numBytes / porLinha;
+    EXPECT_GE(linhas, 3);
+    // Row width = 17 (start) + 17 x (2 row indicators + data columns) + 18 (stop).
+    EXPECT_EQ((largura - 35) % 17, 0);
+    for (int y = 0; y < linhas; ++y) {
+        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, 0, 17), "11111111010101000") << y;
+        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, largura - 18, largura), "111111101000101001") << y;
+        // The padding bits after the last module are clear.
+        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, largura, porLinha * 8), std::string(porLinha * 8 - largura, '0'));
+    }
+
+    EXPECT_EQ(BytesPorLinhaPDF417(17), 3);
+    EXPECT_EQ(BytesPorLinhaPDF417(16), 2);
+    EXPECT_EQ(BytesPorLinhaPDF417(1), 1);
+
+    // Failures: nothing to encode, or more than one symbol holds.
+    EXPECT_EQ(GetPDF417(QByteArray(), m, numBytes, largura), 0);
+    EXPECT_TRUE(m.isEmpty());
+    EXPECT_EQ(numBytes, 0);
+    EXPECT_EQ(largura, 0);
+    QByteArray enorme(3000, '\xE9');
+    EXPECT_EQ(GetPDF417(enorme, m, numBytes, largura), 0);
+    EXPECT_EQ(numBytes, 0);
+}
+
+TEST(PDF417, DesenhoDaMatrizTresPixelsPorModuloEGiro)
+{
+    // 17 modules: 3 bytes per row; 30 bytes: 10 rows, 30 pixels high. Row r
+    // sets module r, module 16 and a padding bit (module 17) that must be
+    // dropped. Bytes past the count are ignored.
+    QByteArray fixa(30, '\0');
+    for (int r = 0; r < 10; ++r) {
+        fixa[r * 3 + r / 8] = char(fixa[r * 3 + r / 8] | (0x80 >> (r % 8)));
+        fixa[r * 3 + 2] = char(0x80 | 0x40);
+    }
+    int chamadas = 0;
+    QString pastaDuranteAChamada;
+    QByteArray recebido;
+    const FuncaoGetPDF417 falso = [&](const QByteArray &v, QByteArray &m, int &n, int &w) {
+        ++chamadas;
+        pastaDuranteAChamada = QDir::currentPath();
+        recebido = v;
+        m = fixa + QByteArray(12, '\xFF');
+        n = 30;
+        w = 17;
+        return 1;
+    };
+
+    const QString pastaAntes = QDir::currentPath();
+    QImage img;
+    DesenharPDF417(img, QStringLiteral("Ação €"), 0, falso);
+    EXPECT_EQ(chamadas, 1);
+    EXPECT_EQ(recebido, QByteArray("A\xE7\xE3o \x80"));
+    EXPECT_EQ(QDir(pastaDuranteAChamada).canonicalPath(), QDir(QDir::tempPath()).canonicalPath());
+    EXPECT_EQ(QDir::currentPath(), pastaAntes);
+    ASSERT_EQ(img.size(), QSize(17, 30));
+    int pretos = 0;
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 17; ++x) {
+            const int r = y / 3;
+            const bool esperado = x == r || x == 16;
+            EXPECT_EQ(Preto(img, x, y), esperado) << x << "," << y;
+            pretos += Preto(img, x, y) ? 1 : 0;
+        }
+    EXPECT_EQ(pretos, 10 * 2 * 3);
+
+    for (const int angulo : {90, 180, 270}) {
+        QImage girada;
+        DesenharPDF417(girada, QStringLiteral("x"), angulo, falso);
+        ASSERT_EQ(girada.size(), angulo == 180 ? QSize(17, 30) : QSize(30, 17)) << angulo;
+        for (int y = 0; y < 30; ++y)
+            for (int x = 0; x < 17; ++x)
+                EXPECT_EQ(girada.pixel(RotacionarPonto(x, y, 17, 30, angulo)), img.pixel(x, y)) << angulo;
+    }
+
+    // 16 modules: 2 bytes per row, so the same 30 bytes make 15 rows.
+    const FuncaoGetPDF417 largura16 = [&](const QByteArray &, QByteArray &m, int &n, int &w) {
+        m = QByteArray(30, '\xFF');
+        n = 30;
+        w = 16;
+        return 1;
+    };
+    DesenharPDF417(img, QStringLiteral("x"), 0, largura16);
+    ASSERT_EQ(img.size(), QSize(16, 45));
+    for (int y = 0; y < 45; ++y)
+        for (int x = 0; x < 16; ++x)
+            ASSERT_TRUE(Preto(img, x, y));
+}
+
+TEST(PDF417, VazioOuFalhaDeixaFigura8x8EmBranco)
+{
+    int chamadas = 0;
+    const FuncaoGetPDF417 contador = [&](const QByteArray &, QByteArray &, int &, int &) {
+        ++chamadas;
+        return 0;
+    };
+    QImage img(50, 50, QImage::Format_RGB32);
+    img.fill(Qt::black);
+    DesenharPDF417(img, QString(), 0, contador);
+    EXPECT_EQ(chamadas, 0);
+    ConferirFiguraVazia(img);
+
+    img.fill(Qt::black);
+    DesenharPDF417(img, QStringLiteral("abc"), 90, contador);
+    EXPECT_EQ(chamadas, 1);
+    ConferirFiguraVazia(img);
+
+    // A reported success with no width or no bytes is a failure too.
+    const FuncaoGetPDF417 semLargura = [](const QByteArray &, QByteArray &m, int &n, int &w) {
+        m = QByteArray(6, '\xFF');
+        n = 6;
+        w = 0;
+        return 1;
+    };
+    DesenharPDF417(img, QStringLiteral("abc"), 0, semLargura);
+    ConferirFiguraVazia(img);
+
+    // With the real encoder: an empty value and a value too long for a symbol.
+    ConferirFiguraVazia(DesenharCodigoBarras(80, QString(), 40, true, 0));
+    ConferirFiguraVazia(DesenharCodigoBarras(80, QString(2000, QChar(0xE9)), 40, true, 270));
+}
+
+TEST(PDF417, SimbolosLidosDeVoltaComAcentosETextosLongos)
+{
+    QString longo;
+    for (int i = 0; longo.size() < 320; ++i)
+        longo += QStringLiteral("Linha %1: pão, maçã, café — preço R$ %2,50; ").arg(i).arg(i * 3);
+    const QString valores[] = {
+        QStringLiteral("123.456/Abc"),
+        QStringLiteral("Ação: çãéíóúÂÊÔàü ñ ß € “aspas”"),
+        longo,
+    };
+    for (const QString &v : valores)
+        for (const int angulo : {0, 90, 180, 270}) {
+            const QImage img = DesenharCodigoBarras(80, v, 40, true, angulo);
+            QByteArray m;
+            int n = 0, w = 0;
+            ASSERT_NE(GetPDF417(Para1252(v), m, n, w), 0);
+            const int linhas = n / BytesPorLinhaPDF417(w);
+            const QSize esperado = AnguloDeitado(angulo) ? QSize(linhas * 3, w) : QSize(w, linhas * 3);
+            EXPECT_EQ(img.size(), esperado) << angulo;
+            const auto l = LerCodigoBarras(img, BarcodeFormat::PDF417, 2);
+            ASSERT_TRUE(l.ok) << v.size() << " chars at " << angulo;
+            EXPECT_EQ(l.bytes, Para1252(v)) << angulo;
+        }
+    EXPECT_GT(longo.size(), 300);
+}

@@ -54,7 +54,9 @@ QString LimparValorCode39(const QString &valor)
     for (const QChar c : valor) {
         if (c == QLatin1Char('*'))
             continue;
-        const QChar m = c.toUpper();
+        // Only a-z have capitals in the set; mapping just those keeps letters
+        // such as U+0131 (dotless i) from turning into data characters.
+        const QChar m = (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ? QChar(c.unicode() - 32) : c;
         limpo.append(IndiceCode39(m) >= 0 ? m : QLatin1Char(' '));
     }
     return limpo;

@@ -82,6 +82,7 @@ TEST(Code39, LimpezaTabelaEVerificador)
     EXPECT_EQ(LimparValorCode39(QStringLiteral("a_b")), QStringLiteral("A B"));
     EXPECT_EQ(LimparValorCode39(QStringLiteral("**")), QString());
     EXPECT_EQ(LimparValorCode39(QStringLiteral("é-1.$/+%ß")), QStringLiteral(" -1.$/+% "));
+    EXPECT_EQ(LimparValorCode39(QStringLiteral("zıſ")), QStringLiteral("Z  "));
 
     EXPECT_EQ(ModulosCaractereCode39(0), k39Zero);
     EXPECT_EQ(ModulosCaractereCode39(43), k39Asterisco);

@@ -9,11 +9,6 @@
 
 namespace lumeta {
 
-bool EhCodigoBarras(int tipo)
-{
-    return (tipo >= 31 && tipo <= 39) || tipo == 80;
-}
-
 QImage DesenharCodigoBarras(int tipo, const QString &valor, int alturaBarra, bool mostrarTexto, int angulo)
 {
     QImage figura;

@@ -2,13 +2,14 @@
 // One door to every encoder, by item type code, for the canvas painter, the
 // barcode dialog's preview and the command line.
 
+#include "document/Layout.h"
+
 #include <QImage>
 #include <QString>
 
 namespace lumeta {
 
-// Whether an item type code is a symbol this module draws: 31 to 39 and 80.
-bool EhCodigoBarras(int tipo);
+// EhCodigoBarras (which type codes are symbols) lives with the item types.
 
 // The picture of a symbol, one pixel per module, before any magnification.
 //   tipo         item type code: 31 EAN-13, 32 EAN-8, 33 Code 39 with check

@@ -30,7 +30,7 @@ int MedidorFontes::Medir(const FonteItem &fonte, const QString &texto, int largu
 
 QString TextoExibido(const QString &texto)
 {
-    return texto.contains(QLatin1String("(%_")) ? ExpandirMacros(texto, 1) : texto;
+    return ExpandirMacros(texto, 1);
 }
 
 OpcoesTexto OpcoesDoItem(const Item &item)

@@ -1,5 +1,7 @@
 #include "editing/SessaoEdicao.h"
 
+#include "canvas/ComandosCanvas.h"
+
 #include "controls/ModuloAssociar.h"
 #include "document/ModuloLumetaEdit.h"
 #include "output/CopiarComo.h"
@@ -288,14 +290,11 @@ void SessaoEdicao::AlternarEnviarEmail()
 
 bool SessaoEdicao::AlternarQuebraPaginaFinal()
 {
-    if (!Documento.QuebraPaginaFinal && Documento.BandaRodape > 0) {
-        if (Ui)
-            Ui->Mensagem(QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!"),
-                         QStringLiteral("Rodapé"), Icone::Informacao);
+    if (!mnuConfigQuebraPagina(*this).isEmpty()) {
+        // Refused: the menu's check mark must fall back to the document.
         chamar(Ganchos.OpcoesAlteradas);
         return false;
     }
-    Documento.QuebraPaginaFinal = !Documento.QuebraPaginaFinal;
     OpcaoAlterada();
     return true;
 }

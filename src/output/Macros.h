@@ -30,6 +30,10 @@ QString MacroVariavel(const QString &resposta);
 QString ExpandirMacros(const QString &texto, int pagina, const QDateTime &agora, const QLocale &local);
 inline QString ExpandirMacros(const QString &texto, int pagina = 1)
 {
+    // Reading the clock and the system locale costs more than most texts,
+    // which hold no macro at all.
+    if (!texto.contains(QLatin1String("(%_")))
+        return texto;
     return ExpandirMacros(texto, pagina, QDateTime::currentDateTime(), QLocale::system());
 }
 

@@ -20,6 +20,16 @@ QPoint RotacionarPonto(int x, int y, int largura, int altura, int angulo)
     }
 }
 
+QString DigitosEmPares(QString valor)
+{
+    for (QChar &c : valor)
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            c = QLatin1Char('0');
+    if (valor.size() % 2 != 0)
+        valor.prepend(QLatin1Char('0'));
+    return valor;
+}
+
 std::string ExpandirLarguras(std::string_view larguras)
 {
     std::string m;

@@ -32,6 +32,10 @@ std::string ExpandirLarguras(std::string_view larguras);
 // and narrow = 1.
 std::string ExpandirLargoEstreito(std::string_view padrao);
 
+// Every non-digit replaced by "0", and a leading "0" when the length is odd:
+// the cleaning of the symbologies that encode digits in pairs.
+QString DigitosEmPares(QString valor);
+
 // The state of one encoder call: the target picture, the unrotated size of the
 // symbol, the rotation and the running x.
 class DesenhoBarras {

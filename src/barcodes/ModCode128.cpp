@@ -51,13 +51,7 @@ const std::string &ModulosParadaCode128()
 
 QString LimparValorCode128C(const QString &valor)
 {
-    QString limpo = valor.trimmed();
-    for (QChar &c : limpo)
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            c = QLatin1Char('0');
-    if (limpo.size() % 2 != 0)
-        limpo.prepend(QLatin1Char('0'));
-    return limpo;
+    return DigitosEmPares(valor.trimmed());
 }
 
 QList<int> ValoresCode128C(const QString &limpo)
@@ -73,13 +67,19 @@ QList<int> ValoresCode128C(const QString &limpo)
     return valores;
 }
 
-std::string ModulosCode128C(const QString &limpo)
+std::string ModulosValoresCode128(const QList<int> &valores)
 {
     std::string m;
-    for (const int v : ValoresCode128C(limpo))
+    m.reserve(size_t(valores.size()) * 11 + 13);
+    for (const int v : valores)
         m += ModulosSimboloCode128(v);
     m += ModulosParadaCode128();
     return m;
+}
+
+std::string ModulosCode128C(const QString &limpo)
+{
+    return ModulosValoresCode128(ValoresCode128C(limpo));
 }
 
 void DesenharCode128C(QImage &figura, int alturaBarra, const QString &valor, bool mostrarTexto, int angulo)

@@ -17,6 +17,9 @@ const std::string &ModulosSimboloCode128(int valor);
 // The stop pattern, 13 modules.
 const std::string &ModulosParadaCode128();
 
+// The module string of a list of symbol values, stop pattern appended.
+std::string ModulosValoresCode128(const QList<int> &valores);
+
 // Trimmed, every non-digit replaced by "0", and a leading "0" when the
 // length is odd: "123" gives "0123", "12a4" gives "1204".
 QString LimparValorCode128C(const QString &valor);

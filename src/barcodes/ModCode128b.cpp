@@ -31,11 +31,7 @@ QList<int> ValoresCode128B(const QString &limpo)
 
 std::string ModulosCode128B(const QString &limpo)
 {
-    std::string m;
-    for (const int v : ValoresCode128B(limpo))
-        m += ModulosSimboloCode128(v);
-    m += ModulosParadaCode128();
-    return m;
+    return ModulosValoresCode128(ValoresCode128B(limpo));
 }
 
 void DesenharCode128B(QImage &figura, int alturaBarra, const QString &valor, bool mostrarTexto, int angulo)

@@ -17,13 +17,7 @@ constexpr std::array<const char *, 10> kDigitos = {
 
 QString LimparValorInterlace25(const QString &valor)
 {
-    QString limpo = valor;
-    for (QChar &c : limpo)
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            c = QLatin1Char('0');
-    if (limpo.size() % 2 != 0)
-        limpo.prepend(QLatin1Char('0'));
-    return limpo;
+    return DigitosEmPares(valor);
 }
 
 const std::string &ModulosParInterlace25(int par)

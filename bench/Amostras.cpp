@@ -1,6 +1,20 @@
 #include "Amostras.h"
 
+#include <cstring>
+#include <vector>
+
 namespace lumeta::bench {
+
+void MedirMemcpy(benchmark::State &st, size_t bytes)
+{
+    std::vector<char> a(bytes, 'x'), b(bytes);
+    for (auto _ : st) {
+        std::memcpy(b.data(), a.data(), bytes);
+        benchmark::DoNotOptimize(b.data());
+        benchmark::ClobberMemory();
+    }
+    st.SetBytesProcessed(int64_t(st.iterations()) * int64_t(bytes));
+}
 
 LayoutDocumento LayoutGrande(int bandas, int itens)
 {

@@ -46,13 +46,7 @@ void BM_memcpyCanvas(benchmark::State &st)
         Cenario c;
         return size_t(c.canvas.Tamanho.width()) * size_t(c.canvas.Tamanho.height()) * 4;
     }();
-    std::vector<char> a(bytes, 'x'), b(bytes);
-    for (auto _ : st) {
-        std::memcpy(b.data(), a.data(), bytes);
-        benchmark::DoNotOptimize(b.data());
-        benchmark::ClobberMemory();
-    }
-    st.SetBytesProcessed(int64_t(st.iterations()) * int64_t(bytes));
+    bench::MedirMemcpy(st, bytes);
 }
 
 // Everything painted into the full-size canvas image (about 1120 x 45,000).

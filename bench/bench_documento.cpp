@@ -20,13 +20,7 @@ const LayoutDocumento &Grande()
 
 void BM_memcpy(benchmark::State &st, size_t bytes)
 {
-    std::vector<char> a(bytes, 'x'), b(bytes);
-    for (auto _ : st) {
-        std::memcpy(b.data(), a.data(), bytes);
-        benchmark::DoNotOptimize(b.data());
-        benchmark::ClobberMemory();
-    }
-    st.SetBytesProcessed(int64_t(st.iterations()) * int64_t(bytes));
+    bench::MedirMemcpy(st, bytes);
 }
 
 void BM_TextoComandos(benchmark::State &st)

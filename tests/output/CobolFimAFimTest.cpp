@@ -129,15 +129,7 @@ const char *const kPrograma = R"(       identification division.
            write reg-saida.
 )";
 
-Item item(uint8_t tipo, const QString &texto, int esquerda, int largura)
-{
-    Item it;
-    it.Tipo = tipo;
-    it.Texto = texto;
-    it.Esquerda = esquerda;
-    it.Largura = largura;
-    return it;
-}
+const auto item = teste::NovoItem;
 
 // Every item type, fonts that change, frame lines, a margin variable, a band
 // comment on both sides, long texts with accents, page breaks and options.

@@ -8,6 +8,7 @@
 #include "output/TextoComandos.h"
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
+#include "support/PastaLinguagensTemporaria.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -166,14 +167,7 @@ TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
     doc.MargemEsquerda = QStringLiteral("WS-MARG");
     doc.MargemInferior = QStringLiteral("\"7.6\"");
     Banda b;
-    const auto item = [](uint8_t tipo, const QString &texto, int esquerda, int largura) {
-        Item it;
-        it.Tipo = tipo;
-        it.Texto = texto;
-        it.Esquerda = esquerda;
-        it.Largura = largura;
-        return it;
-    };
+    const auto item = teste::NovoItem;
     b.Itens = {item(TipoTexto, QStringLiteral("Nome"), 0, 100),
                item(TipoComando, QStringLiteral("WS-NOME"), 100, 100),
                item(TipoEAN13, QStringLiteral("\"789\""), 200, 100),
@@ -347,9 +341,7 @@ class CopybookTeste : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(dir.isValid());
-        anterior = qgetenv(VariavelPastaLinguagens);
-        qputenv(VariavelPastaLinguagens, dir.path().toLocal8Bit());
+        ASSERT_TRUE(pasta.Valida());
         ling.ComentarioInicial = QStringLiteral("      * Relatório");
         ling.ComandosSimples = QStringLiteral("           move \"§c\" to WS-LINHA");
         ling.ComandoRH = QStringLiteral("           move \"§c §rh\" to WS-LINHA");
@@ -358,18 +350,10 @@ protected:
         ASSERT_TRUE(SalvarLin(QStringLiteral("Cobol Teste"), ling, nullptr));
         ling.EhCobol = true;
     }
-    void TearDown() override
-    {
-        if (anterior.isEmpty())
-            qunsetenv(VariavelPastaLinguagens);
-        else
-            qputenv(VariavelPastaLinguagens, anterior);
-    }
-    QString caminho(const QString &nome) const { return dir.filePath(nome); }
+    QString caminho(const QString &nome) const { return pasta.Caminho(nome); }
 
     teste::ConfigTemporaria config;
-    QTemporaryDir dir;
-    QByteArray anterior;
+    teste::PastaLinguagensTemporaria pasta;
     LinguagemDef ling;
 };
 
@@ -454,7 +438,7 @@ TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaS
 
     // A copybook that cannot be written is reported; the layout is saved all the same.
     const QString lmt2 = caminho(QStringLiteral("dois.lmt"));
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("dois.cpy")));
+    ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("dois.cpy")));
     s.NomeArquivo = lmt2;
     ui.respostas = {Resposta::Sim};
     ASSERT_TRUE(s.SalvarLMT(false));
@@ -505,7 +489,7 @@ TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
     s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Ação com um texto que passa bem da coluna setenta e dois");
     const QString lmt = caminho(QStringLiteral("rel.lmt"));
     ASSERT_TRUE(GravarArquivoLMT(lmt, s.Documento).ok);
-    const auto rodar = [&](const QStringList &a) { return Cli(a, dir.path(), config.Config()); };
+    const auto rodar = [&](const QStringList &a) { return Cli(a, pasta.Pasta(), config.Config()); };
 
     LinguagemDef comString = ling, semString = ling;
     semString.CobolString = false;

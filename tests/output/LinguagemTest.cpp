@@ -3,6 +3,7 @@
 #include "output/Linguagem.h"
 
 #include "support/InterfaceRoteirizada.h"
+#include "support/PastaLinguagensTemporaria.h"
 #include "support/TestSupport.h"
 
 #include <QCoreApplication>
@@ -20,21 +21,11 @@ class PastaLinguagensTeste : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(dir.isValid());
-        anterior = qgetenv(VariavelPastaLinguagens);
-        qputenv(VariavelPastaLinguagens, dir.path().toLocal8Bit());
+        ASSERT_TRUE(pasta.Valida());
     }
-    void TearDown() override
-    {
-        if (anterior.isEmpty())
-            qunsetenv(VariavelPastaLinguagens);
-        else
-            qputenv(VariavelPastaLinguagens, anterior);
-    }
-    QString caminho(const QString &nome) const { return dir.filePath(nome); }
+    QString caminho(const QString &nome) const { return pasta.Caminho(nome); }
 
-    QTemporaryDir dir;
-    QByteArray anterior;
+    teste::PastaLinguagensTemporaria pasta;
 };
 
 QByteArray em1252(const char *utf8)
@@ -132,7 +123,7 @@ TEST_F(PastaLinguagensTeste, ModelosVaziosEAcentuadosNoArquivoEGravacaoQueSubsti
     EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("acentos.lin"))).size(), 4 + 8 * 2 + 9 + 19 + 4);
 
     // A target that cannot be written (a folder of that name) is reported.
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     ui.mensagens.clear();
     EXPECT_FALSE(SalvarLin(QStringLiteral("pasta"), LinguagemPadrao(), &ui));
     ASSERT_EQ(ui.mensagens.size(), 1);
@@ -205,7 +196,7 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
     EXPECT_EQ(ui.mensagens[0].texto,
               QStringLiteral("O Arquivo '") + caminho(QStringLiteral("nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     EXPECT_FALSE(LerLinguagem(QStringLiteral("pasta"), def, &ui));
     ASSERT_EQ(ui.mensagens.size(), 2);
     EXPECT_TRUE(ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu o erro ")));
@@ -254,13 +245,13 @@ TEST_F(PastaLinguagensTeste, NomesListaEPasta)
 
     for (const char *n : {"Zeta.lin", "alfa.lin", "Beta.LIN", "leia.txt", "semextensao"})
         teste::GravarArquivoTeste(caminho(QString::fromUtf8(n)), CodificarLin(LinguagemPadrao()));
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta.lin")));
+    ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     EXPECT_EQ(ListarLinguagens(true),
               (QStringList{QStringLiteral("alfa"), QStringLiteral("Beta"), QStringLiteral("meu_cobol"), QStringLiteral("Zeta")}));
     EXPECT_EQ(ListarLinguagens(false),
               (QStringList{QStringLiteral("Beta"), QStringLiteral("Zeta"), QStringLiteral("alfa"), QStringLiteral("meu_cobol")}));
 
-    EXPECT_EQ(PastaLinguagens(), dir.path());
+    EXPECT_EQ(PastaLinguagens(), pasta.Pasta());
     qunsetenv(VariavelPastaLinguagens);
     EXPECT_EQ(PastaLinguagens(), QCoreApplication::applicationDirPath());
 }

@@ -4,6 +4,16 @@
 
 namespace lumeta::teste {
 
+Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura)
+{
+    Item it;
+    it.Tipo = tipo;
+    it.Texto = texto;
+    it.Esquerda = esquerda;
+    it.Largura = largura;
+    return it;
+}
+
 Bytes &Bytes::i16(int v)
 {
     b.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));

@@ -2,6 +2,8 @@
 // Helpers shared by the tests: byte builders for hand-made files and a
 // temporary folder per test.
 
+#include "document/Layout.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
@@ -18,6 +20,10 @@ struct Bytes {
     Bytes &raw(const QByteArray &s);
     Bytes &cab(const char *revisao);    // the 32-byte header of a revision letter
 };
+
+// An item of the given type, text and horizontal place; the rest as a new
+// item has it.
+Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura);
 
 QString CaminhoDados(const QString &nome);
 QByteArray LerArquivo(const QString &caminho);

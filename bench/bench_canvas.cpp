@@ -4,6 +4,7 @@
 // (heights and band placement, command text, painting the visible viewport).
 #include "Amostras.h"
 #include "canvas/Pintor.h"
+#include "editing/SessaoEdicao.h"
 #include "output/TextoComandos.h"
 
 #include <QPainter>
@@ -18,7 +19,7 @@ namespace {
 const QSize Viewport(1200, 900);
 
 struct Cenario {
-    SessaoEditor sessao;
+    SessaoEdicao sessao;
     CanvasPagina canvas;
     RecursosCanvas recursos;
 
@@ -28,7 +29,7 @@ struct Cenario {
         sessao.BandaSelecionada = 1000;
         sessao.ItemSelecionado = 1;
         canvas.TamanhoInicial(1120);
-        PrepararRepintura(sessao, canvas, recursos);
+        PrepararRepintura(sessao.Documento, sessao.BandaSelecionada, canvas, recursos);
     }
 };
 
@@ -54,7 +55,7 @@ void BM_ExibirBandaCompleto(benchmark::State &st)
 {
     Cenario c;
     for (auto _ : st) {
-        ExibirBanda(c.sessao, c.canvas, c.recursos);
+        ExibirBanda(c.sessao.Documento, c.sessao.BandaSelecionada, c.canvas, c.recursos);
         benchmark::DoNotOptimize(c.canvas.Imagem.constBits());
     }
     st.counters["largura"] = c.canvas.Tamanho.width();
@@ -153,7 +154,7 @@ void BM_CicloEdicao(benchmark::State &st)
     int n = 0;
     for (auto _ : st) {
         editado.Texto = QStringLiteral("Texto editado %1 {n}agora{/n}").arg(n++);
-        PrepararRepintura(c.sessao, c.canvas, c.recursos);
+        PrepararRepintura(c.sessao.Documento, c.sessao.BandaSelecionada, c.canvas, c.recursos);
         GerarTextoComandos(c.sessao.Documento, texto);
         const QRect area = AreaVisivel(c.sessao.Documento, c.sessao.BandaSelecionada);
         QPainter p(&janela);

@@ -317,11 +317,11 @@ ResultadoAlturas AtualizarAlturas(LayoutDocumento &doc, int bandaSelecionada, Me
     return r;
 }
 
-ResultadoRepintura PrepararRepintura(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos)
+ResultadoRepintura PrepararRepintura(LayoutDocumento &doc, int bandaSelecionada, CanvasPagina &canvas,
+                                     RecursosCanvas &recursos, InterfaceUsuario *ui)
 {
     ResultadoRepintura r;
-    LayoutDocumento &doc = sessao.Documento;
-    const ResultadoAlturas a = AtualizarAlturas(doc, sessao.BandaSelecionada, recursos.Medidor);
+    const ResultadoAlturas a = AtualizarAlturas(doc, bandaSelecionada, recursos.Medidor);
     r.alturaMudou = a.alturaMudou;
     r.selecionadaAutomatica = a.selecionadaAutomatica;
     if (canvas.TamanhoTotal) {
@@ -330,8 +330,8 @@ ResultadoRepintura PrepararRepintura(SessaoEditor &sessao, CanvasPagina &canvas,
             r.canvasCresceu |= canvas.CrescerAltura(Limitar32(qint64(b.Topo) + std::abs(qint64(b.Altura))));
     }
     r.memoriaInsuficiente = !canvas.VerificarMemoria();
-    if (r.memoriaInsuficiente && sessao.Ui)
-        sessao.Ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
+    if (r.memoriaInsuficiente && ui)
+        ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
     return r;
 }
 
@@ -370,19 +370,19 @@ void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &are
     pintor.restore();
 }
 
-ResultadoRepintura ExibirBanda(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos,
-                               const OpcoesPintura &opcoes)
+ResultadoRepintura ExibirBanda(LayoutDocumento &doc, int bandaSelecionada, CanvasPagina &canvas,
+                               RecursosCanvas &recursos, InterfaceUsuario *ui, const OpcoesPintura &opcoes)
 {
-    ResultadoRepintura r = PrepararRepintura(sessao, canvas, recursos);
+    ResultadoRepintura r = PrepararRepintura(doc, bandaSelecionada, canvas, recursos, ui);
     if (!canvas.GarantirImagem()) {
-        if (!r.memoriaInsuficiente && sessao.Ui)
-            sessao.Ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
+        if (!r.memoriaInsuficiente && ui)
+            ui->Mensagem(MensagemMemoriaInsuficiente, TituloAplicacao, Icone::Exclamacao);
         r.memoriaInsuficiente = true;
     }
     if (canvas.Imagem.isNull())
         return r;
     QPainter p(&canvas.Imagem);
-    PintarLayout(p, sessao.Documento, QRect(QPoint(0, 0), canvas.Tamanho), recursos, opcoes);
+    PintarLayout(p, doc, QRect(QPoint(0, 0), canvas.Tamanho), recursos, opcoes);
     return r;
 }
 

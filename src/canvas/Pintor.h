@@ -14,7 +14,8 @@
 #include "canvas/DesenharTexto.h"
 #include "canvas/Figuras.h"
 #include "canvas/Geometria.h"
-#include "document/Sessao.h"
+#include "document/InterfaceUsuario.h"
+#include "document/Layout.h"
 
 #include <QColor>
 #include <QRect>
@@ -62,9 +63,10 @@ struct ResultadoRepintura {
     bool canvasCresceu = false;          // the scroll bar maxima must follow
 };
 
-// The model side of a repaint (see above). With `sessao.Ui` set, a failed
-// memory check shows its message there (exclamation, application title).
-ResultadoRepintura PrepararRepintura(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos);
+// The model side of a repaint (see above). With `ui` set, a failed memory
+// check shows its message there (exclamation, application title).
+ResultadoRepintura PrepararRepintura(LayoutDocumento &doc, int bandaSelecionada, CanvasPagina &canvas,
+                                     RecursosCanvas &recursos, InterfaceUsuario *ui = nullptr);
 
 struct OpcoesPintura {
     // The editor's selection frame around the selected item; off for
@@ -85,7 +87,8 @@ void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &are
 // The full repaint: PrepararRepintura, then the whole canvas painted into
 // `canvas.Imagem` (allocated at the canvas size; a canvas too large for
 // memory falls back to 2016 x 2016 with the message).
-ResultadoRepintura ExibirBanda(SessaoEditor &sessao, CanvasPagina &canvas, RecursosCanvas &recursos,
+ResultadoRepintura ExibirBanda(LayoutDocumento &doc, int bandaSelecionada, CanvasPagina &canvas,
+                               RecursosCanvas &recursos, InterfaceUsuario *ui = nullptr,
                                const OpcoesPintura &opcoes = {});
 
 }  // namespace lumeta

@@ -233,6 +233,18 @@ void escreverItem(Escritor &e, const Item &it)
     e.u8(it.Tipo);
 }
 
+void escreverBanda(Escritor &e, const Banda &b)
+{
+    e.i32(b.Topo);
+    e.i32(b.Altura);
+    e.i32(b.Deslocamento);
+    e.texto(b.Comentario);
+    e.i16(int16_t(b.Itens.size()));
+    e.cabecalhoArray(b.Itens.size());
+    for (const Item &it : b.Itens)
+        escreverItem(e, it);
+}
+
 }  // namespace
 
 LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
@@ -339,16 +351,8 @@ QByteArray GravarLMT(const LayoutDocumento &doc)
     cab.append(QByteArray(kTamanhoCabecalho - cab.size(), ' '));
     e.bytes(cab.constData(), cab.size());
     e.i16(int16_t(doc.Bandas.size()));
-    for (const Banda &b : doc.Bandas) {
-        e.i32(b.Topo);
-        e.i32(b.Altura);
-        e.i32(b.Deslocamento);
-        e.texto(b.Comentario);
-        e.i16(int16_t(b.Itens.size()));
-        e.cabecalhoArray(b.Itens.size());
-        for (const Item &it : b.Itens)
-            escreverItem(e, it);
-    }
+    for (const Banda &b : doc.Bandas)
+        escreverBanda(e, b);
     e.booleano(doc.Paisagem);
     e.booleano(doc.Imprimir);
     e.booleano(doc.Visivel);
@@ -453,6 +457,42 @@ ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados)
     r.descricaoErro = descricao;
     r.mensagem = MensagemErroGravar(caminho, numero, descricao);
     return r;
+}
+
+QByteArray GravarBandas(const QByteArray &marcador, const QList<Banda> &bandas)
+{
+    qsizetype estimativa = marcador.size() + 2;
+    for (const Banda &b : bandas)
+        estimativa += 32 + b.Comentario.size() + b.Itens.size() * 80;
+    Escritor e(estimativa);
+    e.bytes(marcador.constData(), marcador.size());
+    e.i16(int16_t(bandas.size()));
+    for (const Banda &b : bandas)
+        escreverBanda(e, b);
+    return e.terminar();
+}
+
+bool LerBandas(const QByteArray &dados, qsizetype inicio, QList<Banda> &bandas)
+{
+    if (inicio < 0 || inicio > dados.size())
+        return false;
+    Leitor l(dados);
+    try {
+        l.bytes(inicio);
+        const int16_t n = l.i16();
+        if (n < 0 || n > l.restante() / kMinBanda)
+            return false;
+        QList<Banda> lidas;
+        lidas.reserve(n);
+        Repetidos repetidos;
+        for (int i = 0; i < n; ++i)
+            lidas.append(lerBanda(l, RevisaoAtual, repetidos));
+        bandas = std::move(lidas);
+        return true;
+    } catch (const FimInesperado &) {
+    } catch (const Corrompido &) {
+    }
+    return false;
 }
 
 }  // namespace lumeta

@@ -28,6 +28,13 @@ struct LeituraLMT {
 LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &doc);
 QByteArray GravarLMT(const LayoutDocumento &doc);
 
+// A band list behind a marker, as the clipboard exchange file holds it: a
+// 16-bit count and the band records of the current revision. LerBandas
+// reads from `inicio` and leaves `bandas` untouched unless every record is
+// whole.
+QByteArray GravarBandas(const QByteArray &marcador, const QList<Banda> &bandas);
+bool LerBandas(const QByteArray &dados, qsizetype inicio, QList<Banda> &bandas);
+
 // The messages the editor shows for a failed open or save, word for word.
 QString MensagemFormatoInvalido(const QString &caminho);
 QString MensagemErroAbrir(const QString &caminho, const QString &erro);

@@ -20,6 +20,17 @@ struct OpcoesArquivo {
     bool confirmarSobrescrever = true;  // save only
 };
 
+// A font as the font dialog shows and returns it; the size may have a
+// fraction (the editor rounds it when it stores it).
+struct FonteEscolhida {
+    QString Nome;
+    double Tamanho = 10;
+    bool Negrito = false;
+    bool Italico = false;
+    bool Sublinhado = false;
+    bool Tachado = false;
+};
+
 class InterfaceUsuario {
 public:
     virtual ~InterfaceUsuario() = default;
@@ -30,6 +41,8 @@ public:
     virtual QString ArquivoAbrir(const OpcoesArquivo &opcoes) = 0;
     // An input box; nullopt when cancelled.
     virtual std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) = 0;
+    // The font dialog starting from `inicial`; nullopt when cancelled.
+    virtual std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) = 0;
 };
 
 }  // namespace lumeta

@@ -1,8 +1,9 @@
 #include "editing/SessaoEdicao.h"
 
-#include "canvas/ComandosCanvas.h"
+#include "editing/ComandosBanda.h"
 
 #include "controls/ModuloAssociar.h"
+#include "document/ArquivoLMT.h"
 #include "document/ModuloLumetaEdit.h"
 #include "output/CopiarComo.h"
 #include "output/TextoComandos.h"
@@ -28,20 +29,184 @@ QString ArgumentoCaminho(const QStringList &argumentos)
 }
 
 SessaoEdicao::SessaoEdicao()
+    : ArquivoTransferencia(PastaTemporaria() + NomeArquivoTransferencia),
+      ArquivoVisualizacao(PastaTemporaria() + NomeArquivoVisualizacao)
 {
-    // The base constructor made the new document before this class existed,
-    // so the ring is started here.
-    Desfazer.PosicaoDesfazer = AnelDesfazer::NumPosicoes;
-    ExibirBanda();
-    Desfazer.InicioDesfazer = 1;
+    NovoLMT();
+}
+
+void SessaoEdicao::NovoLMT()
+{
+    BandaSelecionada = 1;
+    ItemSelecionado = 0;
+    Faixa = FaixaSelecao();
+    NomeArquivo.clear();
+    NomeArquivoAnterior.clear();
+    QualidadeJPGSessao = 0;
+    Documento = LayoutDocumento();
+    AddBanda(0, false, 0, 0);
+    AposCarregar();
     Alterado = false;
 }
+
+QString SessaoEdicao::Titulo() const
+{
+    if (NomeArquivo.isEmpty())
+        return NomeProduto;
+    return TituloAplicacao + QStringLiteral(" - [") + NomeArquivo + QLatin1Char(']');
+}
+
+bool SessaoEdicao::SalvarLMT(bool proporNomeAnterior)
+{
+    if (!NomeArquivo.isEmpty()) {
+        NomeArquivoAnterior = NomeArquivo;
+    } else {
+        OpcoesArquivo op;
+        op.filtro = FiltroLMT;
+        op.nomeProposto = proporNomeAnterior ? NomeArquivoAnterior : QString();
+        op.confirmarSobrescrever = true;
+        const QString escolhido = Ui ? Ui->ArquivoSalvar(op) : QString();
+        if (escolhido.isEmpty()) {
+            NomeArquivo = NomeArquivoAnterior;
+            return false;
+        }
+        NomeArquivo = escolhido;
+    }
+    // The copybook comes first; its failure is reported and never keeps the
+    // layout from being saved.
+    GravarCopybookAoSalvar(Documento, NomeArquivo, Config.NoCobolUsarString, Ui);
+    const ResultadoArquivo r = GravarArquivoLMT(NomeArquivo, Documento);
+    if (!r.ok) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, QString(), Icone::Exclamacao);
+        return false;
+    }
+    Config.GravarRecentes(NomeArquivo);
+    return true;
+}
+
+SessaoEdicao::ResultadoAbrir SessaoEdicao::AbrirLMT(const QString &caminho)
+{
+    QString arquivo = caminho;
+    if (arquivo.isEmpty()) {
+        NomeArquivoAnterior = NomeArquivo;
+        OpcoesArquivo op;
+        op.filtro = FiltroLMT;
+        op.pastaInicial = QStringLiteral(".");
+        arquivo = Ui ? Ui->ArquivoAbrir(op) : QString();
+        if (arquivo.isEmpty())
+            return ResultadoAbrir::Cancelado;
+    }
+    NomeArquivo = arquivo;
+    LayoutDocumento lido;
+    const ResultadoArquivo r = AbrirArquivoLMT(arquivo, lido);
+    if (r.leitura == ResultadoLeitura::FormatoInvalido) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, r.titulo, Icone::Exclamacao);
+        NovoLMT();
+        return ResultadoAbrir::FormatoInvalido;
+    }
+    if (!r.ok) {
+        if (Ui)
+            Ui->Mensagem(r.mensagem, r.titulo, Icone::Exclamacao);
+        NomeArquivo = NomeArquivoAnterior;
+        return ResultadoAbrir::Encerrar;
+    }
+    Documento = std::move(lido);
+    QualidadeJPGSessao = 0;
+    BandaSelecionada = 1;
+    ItemSelecionado = 0;
+    Faixa = FaixaSelecao();
+    AposCarregar();
+    Config.GravarRecentes(NomeArquivo);
+    return ResultadoAbrir::Aberto;
+}
+
+void SessaoEdicao::AddBanda(int posicao, bool duplicar, int32_t altura, int32_t largura)
+{
+    auto &bandas = Documento.Bandas;
+    int nova;
+    if (posicao <= 0) {
+        bandas.append(Banda());
+        nova = int(bandas.size());
+    } else {
+        // The band at posicao is copied down one place; with duplicar the two
+        // copies stay and the lower one becomes the selection.
+        bandas.insert(posicao - 1, bandas[posicao - 1]);
+        nova = posicao;
+        BandaSelecionada = posicao + 1;
+        if (Documento.BandaCabecalho >= 1 && Documento.BandaCabecalho >= posicao)
+            ++Documento.BandaCabecalho;
+        if (Documento.BandaRodape >= 1 && Documento.BandaRodape >= posicao)
+            ++Documento.BandaRodape;
+        // A page break stays after the band it was set on; a duplicate's
+        // source keeps its break, the copy gets none.
+        for (int16_t &q : Documento.Quebras)
+            if (q > posicao || (q == posicao && !duplicar))
+                ++q;
+    }
+    if (duplicar) {
+        if (posicao > 0)
+            bandas[posicao].Deslocamento = 0;
+        return;
+    }
+    Banda &b = bandas[nova - 1];
+    b.Altura = altura == 0 ? 18 : altura;
+    b.Deslocamento = 0;
+    b.Comentario.clear();
+    b.Itens.clear();
+    // The new band is never the selected one here, so its item is appended.
+    AddItem(nova, false, largura);
+}
+
+void SessaoEdicao::AddItem(int banda, bool duplicar, int32_t largura)
+{
+    Banda &b = Documento.banda(banda);
+    int novo;
+    const int s = ItemSelecionado;
+    if (BandaSelecionada == banda && s > 0 && s <= b.NumItens()) {
+        b.Itens.insert(s - 1, b.Itens[s - 1]);
+        novo = s;
+        ItemSelecionado = s + 1;
+    } else {
+        b.Itens.append(Item());
+        novo = b.NumItens();
+    }
+    if (duplicar)
+        return;
+    Item &item = b.Itens[novo - 1];
+    item = Item();
+    item.Largura = largura == 0 ? 64 : largura;
+    item.Texto = QStringLiteral("Texto ") + QString::number(b.NumItens());
+    item.Fonte = FontePadrao;
+}
+
+void SessaoEdicao::RemoverBanda(int n)
+{
+    auto &bandas = Documento.Bandas;
+    if (n < 1 || n > bandas.size())
+        return;
+    bandas.removeAt(n - 1);
+    // The break after a removed band goes with it.
+    if (Documento.QuebraPaginaSeek(n))
+        Documento.QuebraPaginaRemove(n);
+    for (int16_t &q : Documento.Quebras)
+        if (q > n)
+            --q;
+    if (Documento.BandaCabecalho >= 1 && Documento.BandaCabecalho >= n)
+        --Documento.BandaCabecalho;
+    if (Documento.BandaRodape >= 1 && Documento.BandaRodape >= n)
+        --Documento.BandaRodape;
+    if (BandaSelecionada > bandas.size())
+        BandaSelecionada = int(bandas.size());
+}
+
 
 // --- the edit cycle ----------------------------------------------------------
 
 void SessaoEdicao::ExibirBanda()
 {
-    UltimaRepintura = PrepararRepintura(*this, Canvas, Recursos);
+    UltimaRepintura = PrepararRepintura(Documento, BandaSelecionada, Canvas, Recursos, Ui);
     if (Ganchos.Pintar)
         Ganchos.Pintar(UltimaRepintura);
     if (UltimaRepintura.selecionadaAutomatica)
@@ -91,7 +256,9 @@ void SessaoEdicao::DesfazerEdicao()
 
 void SessaoEdicao::AposCarregar()
 {
-    SessaoEditor::AposCarregar();
+    for (int b = 1; b <= Documento.NumBandas(); ++b)
+        Documento.ReposicionarItem(b);
+    Documento.ReposicionarBanda();
     chamar(Ganchos.Titulo);
     chamar(Ganchos.RolagemInicial);
     // The repaint stores the loaded state in slot 1, which then becomes the
@@ -110,8 +277,6 @@ void SessaoEdicao::AposCarregar()
 bool SessaoEdicao::Iniciar(const QStringList &argumentos, const QString &pastaPrograma, const QString &programa)
 {
     Config.GravarPasta(pastaPrograma);
-    ArquivoTransferencia = PastaTemporaria() + NomeArquivoTransferencia;
-    ArquivoVisualizacao = PastaTemporaria() + NomeArquivoVisualizacao;
 
     Config.Ler();
     FontePadrao = Config.FontePadrao;

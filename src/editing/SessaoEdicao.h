@@ -1,16 +1,20 @@
 #pragma once
-// The editor's session as the main window drives it: the edit cycle that
-// every change ends with (relayout, automatic heights, paint, snapshot,
-// command text), undo, the file commands with the changed-document question,
-// the start-up and shut-down steps and the configuration menu's effects.
-// Nothing here knows a widget: the window plugs into the hooks below, and the
-// tests drive the same operations with a scripted user.
+// The editor session: the one open document, the state the editor keeps
+// beside it (file names, changed flag, selection, undo ring, settings) and
+// the edit cycle that every change ends with (relayout, automatic heights,
+// paint, snapshot, command text). Commands act on this object, never on
+// widgets: the window plugs into the hooks below, the command-line tool and
+// the tests drive the same operations, the tests with a scripted user.
+// The families of editing commands live beside it, one file each.
 
 #include "canvas/Pintor.h"
 #include "canvas/Unidades.h"
 #include "controls/clsConcatenarString.h"
+#include "document/Configuracoes.h"
 #include "document/Desfazer.h"
-#include "document/Sessao.h"
+#include "document/InterfaceUsuario.h"
+#include "document/Layout.h"
+#include "editing/EstadoEdicao.h"
 
 #include <QStringList>
 #include <functional>
@@ -36,10 +40,32 @@ struct GanchosSessao {
     std::function<void()> OpcoesAlteradas;                     // check marks of the page options
     std::function<bool()> JanelaHabilitada;                    // the guard of Open (true when empty)
     std::function<void()> Encerrar;                            // end the program at once, no questions
+    // Commits the property panel's pending edits before a click moves the
+    // selection; false (a refused value) cancels the click.
+    std::function<bool()> ConfirmarPainel;
+    std::function<void()> MagicoAlterado;                      // the magic item's ghost moved or went
+    std::function<void()> AlcaAlterada;                        // the rubber frame of a handle drag moved
+    std::function<void(const QString &)> DigitarTexto;         // a character typed on the canvas
+    std::function<void()> EsvaziarAreaTransferencia;           // empty the system clipboard
 };
 
-class SessaoEdicao : public SessaoEditor {
+class SessaoEdicao {
 public:
+    LayoutDocumento Documento;
+    QString NomeArquivo;
+    QString NomeArquivoAnterior;
+    bool Alterado = false;
+    int BandaSelecionada = 1;
+    int ItemSelecionado = 0;
+    FaixaSelecao Faixa;
+    bool CliqueAbaixoDaUltimaBanda = false;  // where the last canvas click was, for pasting bands
+    ArrasteAlca Alca;                        // the handle drag under way
+    FantasmaMagico Magico;                   // the magic item's ghost
+    int16_t QualidadeJPGSessao = 0;
+    FonteItem FontePadrao;   // the font given to new items (settings "FontName"...)
+    Configuracoes Config;
+    InterfaceUsuario *Ui = nullptr;  // must be set before any file command
+
     GanchosSessao Ganchos;
     CanvasPagina Canvas;            // size of the page canvas, full-size flag
     RecursosCanvas Recursos;        // fonts, measured heights, pictures, symbols
@@ -51,6 +77,36 @@ public:
     QString ArquivoVisualizacao;    // preview file, fixed at start-up
 
     SessaoEdicao();
+    SessaoEdicao(const SessaoEdicao &) = delete;
+    SessaoEdicao &operator=(const SessaoEdicao &) = delete;
+
+    // The window caption: the product name for a new document, otherwise the
+    // application title and the path in brackets.
+    QString Titulo() const;
+
+    // Resets the document to a new layout of one band holding one item,
+    // repaints it and restarts the undo ring with it as the only state.
+    void NovoLMT();
+
+    // The model operations every command builds on (see ComandosBanda.h and
+    // ComandosItem.h for the menu commands around them).
+    void AddBanda(int posicao, bool duplicar, int32_t altura, int32_t largura);
+    void AddItem(int banda, bool duplicar, int32_t largura);
+    void RemoverBanda(int n);
+
+    // Writes the document to NomeArquivo, asking for a name first when there is
+    // none. False when the dialog was cancelled or the write failed (the user
+    // has then been told why).
+    bool SalvarLMT(bool proporNomeAnterior);
+
+    enum class ResultadoAbrir {
+        Aberto,
+        Cancelado,        // the dialog was cancelled, nothing changed
+        FormatoInvalido,  // refused and replaced by a new document
+        Encerrar,         // an unreadable file: the editor must end at once
+    };
+    // Replaces the document with a file; an empty path asks for one first.
+    ResultadoAbrir AbrirLMT(const QString &caminho);
 
     // The repaint that every change ends with: relayout of the selected band,
     // band placement, automatic heights and canvas growth, paint, document
@@ -112,10 +168,10 @@ public:
     // time it opens).
     QString LerCPY();
 
-protected:
-    void AposCarregar() override;
-
 private:
+    // After a document was loaded or reset: relayout, caption, scroll bars,
+    // repaint into a restarted undo ring, selection and panel.
+    void AposCarregar();
     void abrir(const QString &caminho);
     void chamar(const std::function<void()> &f) const
     {

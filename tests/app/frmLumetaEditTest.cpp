@@ -305,7 +305,7 @@ TEST(frmLumetaEdit, InicioComArquivoArquivosRecentesEAberturaQueFalha)
     const QString caminho = base.Pasta() + QStringLiteral("/Meus Layouts/rel.lmt");
     QDir().mkpath(QFileInfo(caminho).absolutePath());
     {
-        SessaoEditor s;
+        SessaoEdicao s;
         s.AddBanda(0, false, 40, 300);
         ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
     }

@@ -191,13 +191,10 @@ QImage PintarAmostra(LayoutDocumento &doc)
 {
     const QString anterior = QDir::currentPath();
     QDir::setCurrent(RaizRepositorio());
-    SessaoEditor s;
-    s.Documento = doc;
     CanvasPagina canvas;
     canvas.TamanhoInicial(0);
     RecursosCanvas recursos;
-    ExibirBanda(s, canvas, recursos);
-    doc = s.Documento;
+    ExibirBanda(doc, 1, canvas, recursos);
     QDir::setCurrent(anterior);
     return canvas.Imagem;
 }

@@ -2,6 +2,7 @@
 #include "barcodes/CodigoBarras.h"
 #include "canvas/Atributos.h"
 #include "canvas/Pintor.h"
+#include "editing/SessaoEdicao.h"
 #include "support/InterfaceRoteirizada.h"
 
 #include <QFile>
@@ -43,14 +44,14 @@ LayoutDocumento UmaBanda(const Item &it, int altura = 18)
 // The canvas a 1120 x 1120 window shows of a layout.
 QImage Pintar(LayoutDocumento &doc, QSize tamanho = QSize(1120, 1120))
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Documento = doc;
     for (int b = 1; b <= doc.NumBandas(); ++b)
         s.Documento.ReposicionarItem(b);
     CanvasPagina canvas;
     canvas.Tamanho = tamanho;
     RecursosCanvas recursos;
-    ExibirBanda(s, canvas, recursos);
+    ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     doc = s.Documento;
     return canvas.Imagem;
 }
@@ -478,7 +479,7 @@ TEST(Pintor, BarraDeGrafico)
 TEST(Pintor, CrescimentoDoCanvasEMemoria)
 {
     InterfaceRoteirizada ui;
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Ui = &ui;
     s.Documento.banda(1).Itens[0].Largura = 1500;
     for (int i = 0; i < 70; ++i)
@@ -486,7 +487,7 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
     CanvasPagina canvas;
     canvas.TamanhoInicial(1000);
     RecursosCanvas recursos;
-    ResultadoRepintura r = ExibirBanda(s, canvas, recursos);
+    ResultadoRepintura r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     EXPECT_TRUE(r.canvasCresceu);
     EXPECT_FALSE(r.memoriaInsuficiente);
     // The first band bottom past 1120 - 64 is 16 + 58 * 18 = 1060; the
@@ -499,7 +500,7 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
     for (int i = 0; i < 100; ++i)
         s.AddBanda(0, false, 18, 0);
     canvas.LimiteMemoria = 2100LL * 2100 * 4;
-    r = ExibirBanda(s, canvas, recursos);
+    r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     EXPECT_TRUE(r.memoriaInsuficiente);
     EXPECT_FALSE(canvas.TamanhoTotal);
     EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
@@ -507,7 +508,7 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
     EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Memória insuficiente para exibir o layout no tamanho total!"));
     EXPECT_EQ(ui.mensagens[0].titulo, TituloAplicacao);
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
-    r = ExibirBanda(s, canvas, recursos);
+    r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     EXPECT_FALSE(r.memoriaInsuficiente);
     EXPECT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
@@ -515,17 +516,17 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
 
 TEST(Pintor, MarcasDeSelecaoSoQuandoPedidas)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.ItemSelecionado = 1;
     CanvasPagina canvas;
     RecursosCanvas recursos;
-    ExibirBanda(s, canvas, recursos);
+    ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     const QImage sem = canvas.Imagem.copy();
     OpcoesPintura op;
     op.marcarSelecao = true;
     op.bandaSelecionada = 1;
     op.itemSelecionado = 1;
-    ExibirBanda(s, canvas, recursos, op);
+    ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui, op);
     EXPECT_EQ(ContarPixels(sem, sem.rect(), qRgb(0, 0, 128)), 0);
     EXPECT_TRUE(Todos(canvas.Imagem, QRect(8, 16, 64, 1), qRgb(0, 0, 128)));
 }

@@ -1,5 +1,5 @@
 #include "document/ArquivoLMT.h"
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -30,7 +30,7 @@ void itemAntigo(Bytes &e, const QByteArray &texto, int largura, int tipo)
 
 TEST(ArquivoLMT, NovoLayoutTemExatamente166Bytes)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     const QByteArray b = GravarLMT(s.Documento);
     Bytes e;
     e.cab("t").i16(1).i32(16).i32(18).i32(0).str("").i16(1).i16(1).i32(1).i32(1);
@@ -48,7 +48,7 @@ TEST(ArquivoLMT, NovoLayoutTemExatamente166Bytes)
 
 TEST(ArquivoLMT, QuebrasDePaginaTextosEBooleanosGravadosComoNaTabela)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     LayoutDocumento &d = s.Documento;
     d.QuebraPaginaAdd(3);
     d.QuebraPaginaAdd(7);
@@ -246,7 +246,7 @@ TEST(ArquivoLMT, LetrasSemCamposNovosLeemComoAAnterior)
 
 TEST(ArquivoLMT, ArquivoTruncadoEmQualquerPontoDaErroDeLeituraSemAlterarODocumento)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.AddBanda(0, false, 30, 100);
     s.Documento.QuebraPaginaAdd(2);
     const QByteArray completo = GravarLMT(s.Documento);
@@ -287,7 +287,7 @@ TEST(ArquivoLMT, ContagensHostisSaoRecusadasSemAlocarAlemDoArquivo)
                      Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).str("").i16(1).i16(7).i32(1).i32(1).b});
     casos.push_back({"texto maior que o arquivo",
                      Bytes().cab("t").i16(1).i32(0).i32(18).i32(0).i16(-1).raw("abc").b});
-    QByteArray quebras = GravarLMT(SessaoEditor().Documento);
+    QByteArray quebras = GravarLMT(SessaoEdicao().Documento);
     quebras.chop(2 + 2 + 2 + 2 + 5);
     casos.push_back({"quebras demais", quebras + Bytes().i16(3).i16(1).i32(1000000).i32(1).i16(1).b});
     for (const Caso &c : casos) {
@@ -301,7 +301,7 @@ TEST(ArquivoLMT, GravarSubstituiOArquivoEFalhaComMensagemSemPerderOAnterior)
     QTemporaryDir dir;
     const QString caminho = dir.filePath(QStringLiteral("rel.lmt"));
     teste::GravarArquivoTeste(caminho, QByteArray(5000, 'x'));
-    SessaoEditor s;
+    SessaoEdicao s;
     ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
     EXPECT_EQ(teste::LerArquivo(caminho), GravarLMT(s.Documento));  // replaced, not appended to
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("rel.lmt")});
@@ -323,7 +323,7 @@ TEST(ArquivoLMT, GravarSubstituiOArquivoEFalhaComMensagemSemPerderOAnterior)
 
 TEST(ArquivoLMT, TextoLongoDemaisEhCortadoSemCorromperOsCamposSeguintes)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Documento.banda(1).Itens[0].Texto = QString(70000, QLatin1Char('x'));
     s.Documento.MargemInferior = QStringLiteral("WS-FIM");
     LayoutDocumento lido;

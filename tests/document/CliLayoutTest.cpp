@@ -1,7 +1,7 @@
 // The command-line tool as scripts call it: bytes on stdout, messages on
 // stderr, exit status.
 #include "document/ArquivoLMT.h"
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "support/TestSupport.h"
 
 #include <QProcess>
@@ -34,13 +34,13 @@ TEST(Cli, NovoTextoEComandosDaoOsBytesDoEditor)
     const QString novo = dir.filePath(QStringLiteral("novo.lmt"));
     Execucao r = Cli({QStringLiteral("novo"), novo});
     ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
-    EXPECT_EQ(teste::LerArquivo(novo), GravarLMT(SessaoEditor().Documento));
+    EXPECT_EQ(teste::LerArquivo(novo), GravarLMT(SessaoEdicao().Documento));
 
     r = Cli({QStringLiteral("texto"), novo});
     EXPECT_EQ(r.codigo, 0);
     EXPECT_EQ(r.saida, QByteArray("QJ 92\r\nF 100000Arial\r\nT 009900002000600000100010Texto 1\r\nRH 00018\r\nQL\r\n"));
 
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Preço € à vista");
     s.AddItem(1, false, 0);
     s.AddItem(1, false, 0);

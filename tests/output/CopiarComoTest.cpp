@@ -3,7 +3,7 @@
 #include "output/CopiarComo.h"
 
 #include "document/ArquivoLMT.h"
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "document/Texto1252.h"
 #include "output/TextoComandos.h"
 #include "support/ConfigTemporaria.h"
@@ -210,7 +210,7 @@ TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
     LinguagemDef fixo;
     for (QString *m : {&fixo.ComandoF, &fixo.ComandoL, &fixo.ComandoT, &fixo.ComandoRH, &fixo.ComandosSimples})
         *m = QStringLiteral("X");
-    SessaoEditor novo;
+    SessaoEdicao novo;
     novo.Documento.banda(1).Itens[0].CorFundo = 7;
     EXPECT_EQ(GerarCopiarComo(novo.Documento, fixo),
               linhas({QStringLiteral("X"), QString(), QStringLiteral("X"), QStringLiteral("X"), QStringLiteral("X"),
@@ -361,7 +361,7 @@ protected:
 
 TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Preço à vista, um texto longo o bastante para a quebra");
     teste::InterfaceRoteirizada ui;
     const QString cpy = caminho(QStringLiteral("saida.cpy"));
@@ -402,7 +402,7 @@ TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
 TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaSalvaOLayout)
 {
     teste::InterfaceRoteirizada ui;
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Ui = &ui;
     s.Documento.banda(1).Itens[0].Texto = QString(60, QLatin1Char('z'));
     const QString lmt = caminho(QStringLiteral("rel.lmt"));
@@ -485,7 +485,7 @@ Execucao Cli(const QStringList &args, const QString &pastaLinguagens, const QStr
 
 TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Ação com um texto que passa bem da coluna setenta e dois");
     const QString lmt = caminho(QStringLiteral("rel.lmt"));
     ASSERT_TRUE(GravarArquivoLMT(lmt, s.Documento).ok);

@@ -1,4 +1,4 @@
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "output/TextoComandos.h"
 #include "support/TestSupport.h"
 
@@ -21,7 +21,7 @@ QStringList Linhas(const LayoutDocumento &d)
 
 LayoutDocumento ExemploTotal()
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     Item &it = s.Documento.banda(1).Itens[0];
     it.Texto = QStringLiteral("Total");
     it.Largura = 200;
@@ -74,7 +74,7 @@ TEST(TextoComandos, LinhasDeOpcoesNaOrdemEComSeusValores)
 
 TEST(TextoComandos, FonteEhEscritaSoQuandoMudaInclusiveEntreBandas)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.AddItem(1, false, 0);
     s.AddItem(1, false, 0);
     s.AddBanda(0, false, 0, 0);
@@ -97,7 +97,7 @@ TEST(TextoComandos, FonteEhEscritaSoQuandoMudaInclusiveEntreBandas)
 
 TEST(TextoComandos, BandasQuebrasCabecalhoRodapeEDeslocamento)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     for (int i = 0; i < 3; ++i)
         s.AddBanda(0, false, 0, 0);
     LayoutDocumento &d = s.Documento;
@@ -127,7 +127,7 @@ TEST(TextoComandos, BandasQuebrasCabecalhoRodapeEDeslocamento)
 
 TEST(TextoComandos, CadaTipoDeItemComSuasRegrasDeValorELargura)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     Banda &b = s.Documento.banda(1);
     auto novo = [&](uint8_t tipo, const QString &texto, int largura) {
         Item it;
@@ -186,7 +186,7 @@ TEST(TextoComandos, NumerosComLarguraMinimaENegativos)
 
 TEST(TextoComandos, ListaDeComandosUtilizadosSemRepetirIgnorandoCaixa)
 {
-    SessaoEditor s;
+    SessaoEdicao s;
     s.AddItem(1, false, 0);
     s.AddItem(1, false, 0);
     s.AddBanda(0, false, 0, 0);
@@ -199,7 +199,7 @@ TEST(TextoComandos, ListaDeComandosUtilizadosSemRepetirIgnorandoCaixa)
         itens[i]->Texto = QString::fromLatin1(textos[i]);
     }
     EXPECT_EQ(ListaComandosUtilizados(d), QStringLiteral("WS-NOME\r\nWS-DATA\r\nWS-TOTAL\r\n"));
-    EXPECT_EQ(ListaComandosUtilizados(SessaoEditor().Documento), QString());
+    EXPECT_EQ(ListaComandosUtilizados(SessaoEdicao().Documento), QString());
 }
 
 TEST(ConcatenarString, CresceEmPassosEDevolveSoOTextoUsado)

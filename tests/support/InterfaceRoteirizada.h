@@ -24,6 +24,7 @@ public:
     QList<MensagemVista> mensagens;
     QList<MensagemVista> perguntas;
     QList<OpcoesArquivo> dialogos;
+    std::deque<std::optional<FonteEscolhida>> fontes;  // answers of the font dialog
 
     void Mensagem(const QString &texto, const QString &titulo, Icone icone) override
     {
@@ -48,6 +49,18 @@ public:
         r.swap(entradas.front());
         entradas.pop_front();
         return r;
+    }
+
+    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &) override
+    {
+        if (fontes.empty())
+            return std::nullopt;
+        const bool cancelado = !fontes.front().has_value();
+        const FonteEscolhida f = cancelado ? FonteEscolhida() : *fontes.front();
+        fontes.pop_front();
+        if (cancelado)
+            return std::nullopt;
+        return f;
     }
 
 private:

@@ -2,7 +2,7 @@
 
 #include "app/cli/Comandos.h"
 #include "document/ArquivoLMT.h"
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "document/Texto1252.h"
 #include "output/TextoComandos.h"
 
@@ -21,7 +21,7 @@ const ComandoCli novo(10, "novo", "novo SAIDA.lmt",
     [](const QStringList &args, Saidas &io) {
         if (args.size() != 1)
             return usoErrado(io, "novo SAIDA.lmt");
-        SessaoEditor sessao;
+        SessaoEdicao sessao;
         const ResultadoArquivo r = GravarArquivoLMT(args[0], sessao.Documento);
         if (!r.ok) {
             io.err(r.mensagem);

@@ -3,7 +3,6 @@
 
 #include "app/cli/Comandos.h"
 #include "canvas/Pintor.h"
-#include "document/Sessao.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -20,21 +19,19 @@ const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
             io.err(QStringLiteral("Uso: lumetaedit-cli png ARQUIVO.lmt SAIDA.png"));
             return 2;
         }
-        SessaoEditor sessao;
-        if (!CarregarLayout(args[0], sessao.Documento, io))
+        LayoutDocumento doc;
+        if (!CarregarLayout(args[0], doc, io))
             return 1;
         // The editor opens a file with band 1 selected and every band laid out.
-        sessao.BandaSelecionada = 1;
-        sessao.ItemSelecionado = 0;
-        for (int b = 1; b <= sessao.Documento.NumBandas(); ++b)
-            sessao.Documento.ReposicionarItem(b);
-        sessao.Documento.ReposicionarBanda();
+        for (int b = 1; b <= doc.NumBandas(); ++b)
+            doc.ReposicionarItem(b);
+        doc.ReposicionarBanda();
 
         CanvasPagina canvas;
         const QScreen *tela = QGuiApplication::primaryScreen();
         canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
         RecursosCanvas recursos;
-        const ResultadoRepintura r = ExibirBanda(sessao, canvas, recursos);
+        const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);
         if (r.memoriaInsuficiente)
             io.err(MensagemMemoriaInsuficiente);
         if (canvas.Imagem.isNull() || !canvas.Imagem.save(args[1], "PNG")) {

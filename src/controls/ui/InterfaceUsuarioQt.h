@@ -18,6 +18,7 @@ public:
     QString ArquivoSalvar(const OpcoesArquivo &opcoes) override;
     QString ArquivoAbrir(const OpcoesArquivo &opcoes) override;
     std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) override;
+    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) override;
 
 private:
     QWidget *m_dono;

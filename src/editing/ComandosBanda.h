@@ -1,9 +1,10 @@
 #pragma once
-// Session commands of the page canvas: a band's height mode, the page break
-// after a band, and the final page break against the footer. They change the
-// model only; the caller repaints (ExibirBanda) and refreshes the panel.
+// The band commands of the Edit menu: add, insert, duplicate, remove, move
+// up and down, height mode, page break after the band, band font; and the
+// final page break against the footer. Each runs the edit cycle and shows
+// the selection again, except where said.
 
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 
 #include <QList>
 #include <QString>
@@ -16,11 +17,26 @@ inline const QString MensagemQuebraFinalRemovida = MensagemQuebraFinalComRodape
     + QStringLiteral("\n\nA quebra de página será removida do final da página.");
 inline const QString TituloRodape = QStringLiteral("Rodapé");
 
-// `mnuEditarBandaAuto`: the bands of `faixa` (a range over several bands),
-// or the selected band when it is empty, switch mode: a fixed height becomes
-// 0 (automatic, computed at the next repaint), an automatic one becomes the
-// magnitude last computed.
-void mnuEditarBandaAuto(SessaoEditor &sessao, const QList<int> &faixa = {});
+inline const QString MensagemUltimaBanda = QStringLiteral("Não é possível remover a última banda!");
+
+void mnuEditarBandaAdicionar(SessaoEdicao &s);
+void mnuEditarBandaInserir(SessaoEdicao &s);
+void mnuEditarBandaDuplicar(SessaoEdicao &s);
+// Refused with MensagemUltimaBanda when the layout has one band.
+bool mnuEditarBandaRemover(SessaoEdicao &s);
+void mnuEditarBandaUp(SessaoEdicao &s);
+void mnuEditarBandaDown(SessaoEdicao &s);
+// The font dialog; every item of the selected band takes the chosen font.
+void mnuEditarBandaFonte(SessaoEdicao &s);
+
+// The selected band's height, or every band's of a range over several
+// bands; a positive height ends automatic height. No repaint.
+void AplicarAltura(SessaoEdicao &s, int32_t altura);
+
+// `mnuEditarBandaAuto`: the bands of a range over several bands, or the
+// selected band, switch mode: a fixed height becomes 0 (automatic, computed
+// by the repaint), an automatic one the magnitude last computed.
+void mnuEditarBandaAuto(SessaoEdicao &sessao);
 // The caption of that menu entry for a band.
 QString LegendaBandaAuto(const Banda &banda);
 // Whether the height field takes a typed height (a fixed band); an automatic
@@ -29,8 +45,8 @@ inline bool AlturaManual(const Banda &banda) { return banda.Altura >= 1; }
 
 // `mnuEditarBandaPagina`: adds the page break after the selected band, or
 // removes it when there is one. The entry is enabled from band 2 on; on band
-// 1 nothing happens. Returns whether the list changed.
-bool mnuEditarBandaPagina(SessaoEditor &sessao);
+// 1 nothing happens. Returns whether the list changed (and repainted).
+bool mnuEditarBandaPagina(SessaoEdicao &sessao);
 inline bool BandaPaginaHabilitada(int banda) { return banda >= 2; }
 // "Remover a &Quebra de Página" or "&Quebrar a Página".
 QString LegendaBandaPagina(const LayoutDocumento &doc, int banda);
@@ -40,12 +56,12 @@ QString LegendaBandaPagina(const LayoutDocumento &doc, int banda);
 // a footer is refused with MensagemQuebraFinalComRodape (information,
 // "Rodapé") and the setting stays off. The message, also shown through
 // `sessao.Ui` when one is set, is returned; empty when the toggle happened.
-QString mnuConfigQuebraPagina(SessaoEditor &sessao);
+QString mnuConfigQuebraPagina(SessaoEdicao &sessao);
 
 // What the footer check box runs after setting the footer start: with the
 // final page break on, MensagemQuebraFinalRemovida (information, "Rodapé")
 // and the setting goes off as the menu command turns it off. Returns the
 // message (empty when nothing was due), shown through `sessao.Ui` too.
-QString VerificarRodapeQuebraFinal(SessaoEditor &sessao);
+QString VerificarRodapeQuebraFinal(SessaoEdicao &sessao);
 
 }  // namespace lumeta

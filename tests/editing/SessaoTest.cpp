@@ -1,5 +1,5 @@
 #include "document/ArquivoLMT.h"
-#include "document/Sessao.h"
+#include "editing/SessaoEdicao.h"
 #include "support/InterfaceRoteirizada.h"
 #include "support/TestSupport.h"
 
@@ -21,7 +21,7 @@ protected:
     QTemporaryDir config;
     QTemporaryDir dir;
     teste::InterfaceRoteirizada ui;
-    SessaoEditor s;
+    SessaoEdicao s;
 };
 
 }  // namespace
@@ -197,36 +197,36 @@ TEST_F(SessaoTest, SalvarPedeNomeSoQuandoNaoHaEVoltaAoAnteriorAoCancelar)
 TEST_F(SessaoTest, AbrirRecusaFormatoNovoEEncerraEmArquivoIlegivel)
 {
     const QString bom = dir.filePath(QStringLiteral("bom.lmt"));
-    SessaoEditor outra;
+    SessaoEdicao outra;
     outra.AddBanda(0, false, 40, 0);
     outra.Documento.Paisagem = true;
     outra.Documento.ReposicionarBanda();
     ASSERT_TRUE(GravarArquivoLMT(bom, outra.Documento).ok);
     s.QualidadeJPGSessao = 50;
     s.BandaSelecionada = 1;
-    EXPECT_EQ(s.AbrirLMT(bom), SessaoEditor::ResultadoAbrir::Aberto);
+    EXPECT_EQ(s.AbrirLMT(bom), SessaoEdicao::ResultadoAbrir::Aberto);
     EXPECT_EQ(s.Documento, outra.Documento);
     EXPECT_EQ(s.NomeArquivo, bom);
     EXPECT_EQ(s.QualidadeJPGSessao, 0);
     EXPECT_EQ(s.Config.ArquivosRecentes, QStringList{bom});
 
     ui.arquivos = {QString()};
-    EXPECT_EQ(s.AbrirLMT(QString()), SessaoEditor::ResultadoAbrir::Cancelado);
+    EXPECT_EQ(s.AbrirLMT(QString()), SessaoEdicao::ResultadoAbrir::Cancelado);
     EXPECT_EQ(s.NomeArquivo, bom);
 
     const QString novo = dir.filePath(QStringLiteral("novo.lmt"));
     teste::GravarArquivoTeste(novo, "LumetaEdit 1.0(v)               xxxx");
-    EXPECT_EQ(s.AbrirLMT(novo), SessaoEditor::ResultadoAbrir::FormatoInvalido);
+    EXPECT_EQ(s.AbrirLMT(novo), SessaoEdicao::ResultadoAbrir::FormatoInvalido);
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Impossível Abrir"));
     EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Formato inválido!")));
-    EXPECT_EQ(s.Documento, SessaoEditor().Documento);
+    EXPECT_EQ(s.Documento, SessaoEdicao().Documento);
 
     s.NomeArquivo = bom;
     const QString curto = dir.filePath(QStringLiteral("curto.lmt"));
     teste::GravarArquivoTeste(curto, GravarLMT(outra.Documento).left(60));
     ui.arquivos = {curto};
-    EXPECT_EQ(s.AbrirLMT(QString()), SessaoEditor::ResultadoAbrir::Encerrar);
+    EXPECT_EQ(s.AbrirLMT(QString()), SessaoEdicao::ResultadoAbrir::Encerrar);
     EXPECT_EQ(s.NomeArquivo, bom);
     ASSERT_EQ(ui.mensagens.size(), 2);
     EXPECT_EQ(ui.mensagens[1].icone, Icone::Exclamacao);

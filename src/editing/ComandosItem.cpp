@@ -1,0 +1,140 @@
+#include "editing/ComandosItem.h"
+
+#include "editing/ComandosBanda.h"
+#include "editing/Selecao.h"
+
+#include <QSet>
+
+namespace lumeta {
+
+namespace {
+
+bool temItem(const SessaoEdicao &s)
+{
+    return s.ItemSelecionado >= 1 && s.ItemSelecionado <= s.Documento.banda(s.BandaSelecionada).NumItens();
+}
+
+void concluir(SessaoEdicao &s)
+{
+    s.ConcluirEdicao();
+}
+
+}  // namespace
+
+void mnuEditarItemInserir(SessaoEdicao &s)
+{
+    LimparFaixa(s);
+    s.AddItem(s.BandaSelecionada, false, 0);
+    concluir(s);
+}
+
+void mnuEditarItemAdicionar(SessaoEdicao &s)
+{
+    NadaSelecionado(s);
+    mnuEditarItemInserir(s);
+}
+
+void mnuEditarItemDuplicar(SessaoEdicao &s)
+{
+    LimparFaixa(s);
+    const int antes = s.ItemSelecionado;
+    s.AddItem(s.BandaSelecionada, true, 0);
+    // With no item selected the appended slot is a fresh item; the copy of
+    // nothing is the band's last item.
+    if (antes == 0) {
+        Banda &b = s.Documento.banda(s.BandaSelecionada);
+        if (b.NumItens() >= 2)
+            b.Itens.last() = b.Itens[b.NumItens() - 2];
+        s.ItemSelecionado = b.NumItens();
+    }
+    concluir(s);
+}
+
+void mnuEditarItemRemover(SessaoEdicao &s)
+{
+    if (!temItem(s))
+        return;
+    Banda &b = s.Documento.banda(s.BandaSelecionada);
+    if (b.NumItens() <= 1) {
+        const Resposta r = s.Ui ? s.Ui->Perguntar(PerguntaUltimoItem, QString(), Botoes::SimNao, Icone::Pergunta)
+                                : Resposta::Nao;
+        if (r != Resposta::Nao)
+            mnuEditarBandaRemover(s);
+        return;
+    }
+    LimparFaixa(s);
+    b.Itens.removeAt(s.ItemSelecionado - 1);
+    if (s.ItemSelecionado > b.NumItens())
+        s.ItemSelecionado = b.NumItens();
+    concluir(s);
+}
+
+void mnuEditarItemLeft(SessaoEdicao &s)
+{
+    if (!temItem(s) || s.ItemSelecionado <= 1)
+        return;
+    LimparFaixa(s);
+    s.Documento.banda(s.BandaSelecionada).Itens.swapItemsAt(s.ItemSelecionado - 2, s.ItemSelecionado - 1);
+    --s.ItemSelecionado;
+    concluir(s);
+}
+
+void mnuEditarItemRight(SessaoEdicao &s)
+{
+    if (!temItem(s) || s.ItemSelecionado >= s.Documento.banda(s.BandaSelecionada).NumItens())
+        return;
+    LimparFaixa(s);
+    s.Documento.banda(s.BandaSelecionada).Itens.swapItemsAt(s.ItemSelecionado - 1, s.ItemSelecionado);
+    ++s.ItemSelecionado;
+    concluir(s);
+}
+
+void DefinirTipoItem(SessaoEdicao &s, uint8_t tipo)
+{
+    const QList<AlvoItens> alvo = ItensAlvo(s);
+    if (alvo.isEmpty())
+        return;
+    for (const AlvoItens &a : alvo) {
+        Item &it = s.Documento.banda(a.banda).Itens[a.item - 1];
+        it.Tipo = tipo;
+        if (tipo == TipoFigura) {
+            // Pictures are never rotated: only the justify bit survives.
+            const int digito = it.Atributos.at(6).digitValue();
+            it.Atributos[6] = QChar(u'0' + ((digito < 0 ? 0 : digito) & 1));
+        }
+    }
+    concluir(s);
+}
+
+void AplicarLargura(SessaoEdicao &s, int32_t largura)
+{
+    QSet<int> bandas;
+    for (const AlvoItens &a : ItensAlvo(s)) {
+        s.Documento.banda(a.banda).Itens[a.item - 1].Largura = largura;
+        bandas.insert(a.banda);
+    }
+    for (int b : bandas)
+        s.Documento.ReposicionarItem(b);
+}
+
+EstadoMenuEditar PrepararMenuEditar(const SessaoEdicao &s, bool focoEmTexto)
+{
+    EstadoMenuEditar e;
+    e.desfazer = !focoEmTexto && s.PodeDesfazer();
+    const Banda &b = s.Documento.banda(s.BandaSelecionada);
+    if (temItem(s)) {
+        const int tipo = b.Itens[s.ItemSelecionado - 1].Tipo;
+        const bool barras = EhCodigoBarras(tipo) || tipo == TipoBarraGrafico;
+        e.itemComandos = true;
+        e.tipoTexto = tipo != TipoTexto;
+        e.tipoFigura = tipo != TipoFigura;
+        e.tipoComando = tipo != TipoComando;
+        e.tipoCodigoBarras = !barras;
+    }
+    e.bandaPagina = BandaPaginaHabilitada(s.BandaSelecionada);
+    e.legendaBandaPagina = LegendaBandaPagina(s.Documento, s.BandaSelecionada);
+    e.legendaBandaAuto = LegendaBandaAuto(b);
+    return e;
+}
+
+}  // namespace lumeta

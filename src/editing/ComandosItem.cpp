@@ -106,6 +106,18 @@ void DefinirTipoItem(SessaoEdicao &s, uint8_t tipo)
     concluir(s);
 }
 
+void AlternarLinha(SessaoEdicao &s, int n)
+{
+    if (n < 1 || n > 6 || !temItem(s))
+        return;
+    const Item &sel = s.Documento.banda(s.BandaSelecionada).Itens[s.ItemSelecionado - 1];
+    const QChar novo = sel.Linhas.at(n - 1) == u'1' ? u'0' : u'1';
+    for (const AlvoItens &a : ItensAlvo(s))
+        s.Documento.banda(a.banda).Itens[a.item - 1].Linhas[n - 1] = novo;
+    s.ExibirBanda();
+    MostrarSelecao(s);
+}
+
 void AplicarLargura(SessaoEdicao &s, int32_t largura)
 {
     QSet<int> bandas;

@@ -24,6 +24,10 @@ void mnuEditarItemRight(SessaoEdicao &s);
 // command, on the selected item or every item of the range.
 void DefinirTipoItem(SessaoEdicao &s, uint8_t tipo);
 
+// A line button (1..6): the selected item's line n switches, and every item
+// of the range takes the new state; then the repaint.
+void AlternarLinha(SessaoEdicao &s, int n);
+
 // The width of the selected item, or of every item of the range, followed
 // by the relayout of the bands concerned. No repaint.
 void AplicarLargura(SessaoEdicao &s, int32_t largura);

@@ -1,5 +1,14 @@
 #include "app/gui/CanvasJanela.h"
 
+#include "editing/AlcasMagico.h"
+#include "editing/DesenhoSelecao.h"
+#include "editing/Selecao.h"
+#include "editing/Teclado.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,13 +21,125 @@ PicPagina::PicPagina(SessaoEdicao &sessao, QWidget *pai) : QWidget(pai), m_sessa
     setObjectName(QStringLiteral("picPagina"));
     // The painter clears every area it paints, so Qt need not.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName(QStringLiteral("Página"));
 }
 
 void PicPagina::paintEvent(QPaintEvent *e)
 {
     QPainter p(this);
     PintarLayout(p, m_sessao.Documento, e->rect(), m_sessao.Recursos);
+    PintarMarcasEdicao(p, m_sessao, e->rect());
+    m_marcas = AreaMarcasEdicao(m_sessao);
+}
+
+void PicPagina::AtualizarMarcas()
+{
+    const QRect agora = AreaMarcasEdicao(m_sessao);
+    update(ParaWidget(m_marcas.united(agora)).adjusted(-2, -2, 2, 2));
+}
+
+namespace {
+
+bool soShift(Qt::KeyboardModifiers m)
+{
+    return (m & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == Qt::ShiftModifier;
+}
+
+}  // namespace
+
+void PicPagina::mousePressEvent(QMouseEvent *e)
+{
+    setFocus(Qt::MouseFocusReason);
+    const QPoint p = ParaCanvas(e->position());
+    if (e->button() != Qt::LeftButton && e->button() != Qt::RightButton)
+        return;
+    const bool esquerdo = e->button() == Qt::LeftButton;
+    if (m_sessao.Magico.visivel && m_sessao.Magico.retangulo.contains(p)) {
+        if (esquerdo) {
+            CliqueMagico(m_sessao);
+            return;
+        }
+        OcultarMagico(m_sessao);
+    }
+    if (esquerdo && !m_sessao.Faixa.visivel) {
+        const int alca = AlcaEm(m_sessao, p);
+        if (alca >= 0 && IniciarArrasteAlca(m_sessao, alca, e->position())) {
+            AtualizarMarcas();
+            return;
+        }
+    }
+    const ReacaoMouse r = MouseDownCanvas(m_sessao, p.x(), p.y(), esquerdo ? BotaoMouse::Esquerdo : BotaoMouse::Direito,
+                                          soShift(e->modifiers()));
+    AtualizarMarcas();
+    if (r == ReacaoMouse::MenuEditar)
+        emit MenuEditar(e->globalPosition().toPoint());
+}
+
+void PicPagina::mouseMoveEvent(QMouseEvent *e)
+{
+    const QPoint p = ParaCanvas(e->position());
+    if (m_sessao.Alca.Ativo()) {
+        if (e->buttons() & Qt::LeftButton)
+            MoverArrasteAlca(m_sessao, e->position());
+        return;
+    }
+    if (e->buttons() == Qt::LeftButton && (e->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier
+        && m_sessao.ItemSelecionado > 0) {
+        ArrastarSelecao(m_sessao, p.x(), p.y());
+        AtualizarMarcas();
+        return;
+    }
+    MoverMagico(m_sessao, p.x(), p.y(), e->buttons() == Qt::NoButton && e->modifiers() == Qt::NoModifier);
+}
+
+void PicPagina::mouseReleaseEvent(QMouseEvent *e)
+{
+    if (e->button() == Qt::LeftButton && m_sessao.Alca.Ativo()) {
+        SoltarArrasteAlca(m_sessao);
+        AtualizarMarcas();
+    }
+}
+
+void PicPagina::leaveEvent(QEvent *e)
+{
+    // The ghost lives only while the pointer is over free canvas.
+    OcultarMagico(m_sessao);
+    QWidget::leaveEvent(e);
+}
+
+void PicPagina::keyPressEvent(QKeyEvent *e)
+{
+    const ResultadoTecla r = TeclaCanvas(m_sessao, e->key(), e->modifiers());
+    if (r.rolagem != AcaoRolagem::Nenhuma)
+        emit Rolar(int(r.rolagem));
+    if (r.consumida) {
+        AtualizarMarcas();
+        return;
+    }
+    const bool semCtrlAlt = !(e->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (semCtrlAlt && CaractereCanvas(m_sessao, e->text())) {
+        AtualizarMarcas();
+        return;
+    }
+    QWidget::keyPressEvent(e);
+}
+
+bool PicPagina::event(QEvent *e)
+{
+    if (e->type() == QEvent::ToolTip) {
+        auto *ajuda = static_cast<QHelpEvent *>(e);
+        const int alca = AlcaEm(m_sessao, ParaCanvas(ajuda->pos()));
+        const QString dica = alca >= 0 ? DicaAlca(alca) : QString();
+        if (dica.isEmpty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(ajuda->globalPos(), dica, this);
+        return true;
+    }
+    // Tab leaves the canvas; every other key is the canvas's own.
+    return QWidget::event(e);
 }
 
 PicContainer::PicContainer(QWidget *pai) : QWidget(pai)

@@ -10,16 +10,38 @@
 
 namespace lumeta {
 
+// The page canvas. It turns mouse and key events into the session's
+// editing commands and paints the layout with the editing marks over it;
+// the commands and the marks' geometry live in the session's core.
 class PicPagina : public QWidget {
     Q_OBJECT
 public:
     PicPagina(SessaoEdicao &sessao, QWidget *pai);
 
+    // Widget coordinates to canvas pixels and back: the one place that
+    // knows how the page is shown (a zoom would change only these).
+    static QPoint ParaCanvas(QPointF p) { return p.toPoint(); }
+    static QRect ParaWidget(const QRect &r) { return r; }
+
+    // Repaints the editing marks where they were and where they are now.
+    void AtualizarMarcas();
+
+signals:
+    void MenuEditar(const QPoint &global);     // a right click asks for the Edit menu
+    void Rolar(int acao);                       // a scrolling key (AcaoRolagem)
+
 protected:
     void paintEvent(QPaintEvent *e) override;
+    void mousePressEvent(QMouseEvent *e) override;
+    void mouseMoveEvent(QMouseEvent *e) override;
+    void mouseReleaseEvent(QMouseEvent *e) override;
+    void leaveEvent(QEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
+    bool event(QEvent *e) override;
 
 private:
     SessaoEdicao &m_sessao;
+    QRect m_marcas;   // what the marks covered at the last paint
 };
 
 class PicContainer : public QWidget {

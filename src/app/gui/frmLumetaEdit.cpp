@@ -7,6 +7,12 @@
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
 #include "document/ModuloLumetaEdit.h"
+#include "editing/AlcasMagico.h"
+#include "editing/ComandosBanda.h"
+#include "editing/ComandosItem.h"
+#include "editing/ComandosTransferencia.h"
+#include "editing/Selecao.h"
+#include "editing/Teclado.h"
 #include "output/CopiarComo.h"
 #include "output/Linguagem.h"
 #include "output/Macros.h"
@@ -25,6 +31,7 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTextEdit>
 #include <QUrl>
@@ -162,54 +169,89 @@ void frmLumetaEdit::criarMenuEditar()
         prepararMenuEditar();
     });
     mnuEditar->addSeparator();
-    // Clipboard, selection, band and item commands arrive with their own parts
-    // of the editor; until then they are shown but cannot be chosen.
-    item(mnuEditar, QStringLiteral("mnuEditarRecortar"), QStringLiteral("&Recortar"), false);
-    item(mnuEditar, QStringLiteral("mnuEditarCopiar"), QStringLiteral("&Copiar"), false);
+    // Each entry runs its session command; the standard shortcuts of any
+    // editor sit beside them. A text box with the focus takes its own
+    // copy and paste keys before the window sees them.
+    auto comando = [this](QMenu *menu, const char *nome, const QString &legenda, void (*f)(SessaoEdicao &),
+                          const QKeySequence &atalho = {}) {
+        QAction *a = item(menu, QString::fromLatin1(nome), legenda);
+        if (!atalho.isEmpty()) {
+            a->setShortcut(atalho);
+            a->setShortcutContext(Qt::WindowShortcut);
+        }
+        connect(a, &QAction::triggered, this, [this, f] {
+            f(m_sessao);
+            picPagina->AtualizarMarcas();
+        });
+        return a;
+    };
+    comando(mnuEditar, "mnuEditarRecortar", QStringLiteral("&Recortar"), mnuEditarRecortar, QKeySequence::Cut);
+    comando(mnuEditar, "mnuEditarCopiar", QStringLiteral("&Copiar"),
+            [](SessaoEdicao &s) { mnuEditarCopiar(s); }, QKeySequence::Copy);
     QMenu *como = submenu(mnuEditar, QStringLiteral("mnuEditarCopiarComo"), QStringLiteral("&Copiar como"));
     connect(como, &QMenu::aboutToShow, this, &frmLumetaEdit::prepararCopiarComo);
     QAction *comandos = item(como, QStringLiteral("mnuEditarCopiarComoComandos"), QStringLiteral("&Comandos utilizados"));
     connect(comandos, &QAction::triggered, this, &frmLumetaEdit::copiarComandos);
     como->addSeparator()->setObjectName(QStringLiteral("mnuSeparaCopiarComo"));
     QMenu *colar = submenu(mnuEditar, QStringLiteral("mnuEditarColar"), QStringLiteral("Co&lar"));
-    colar->menuAction()->setEnabled(false);
-    item(colar, QStringLiteral("mnuEditarColarBanda"), QStringLiteral("&Bandas"), false);
-    item(colar, QStringLiteral("mnuEditarColarItem"), QStringLiteral("&Itens"), false);
-    item(mnuEditar, QStringLiteral("mnuEditarExcluir"), QStringLiteral("E&xcluir"), false);
-    item(mnuEditar, QStringLiteral("mnuEditarTudo"), QStringLiteral("Selecionar &tudo"), false);
+    comando(colar, "mnuEditarColarBanda", QStringLiteral("&Bandas"), mnuEditarColarBanda,
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V));
+    comando(colar, "mnuEditarColarItem", QStringLiteral("&Itens"), mnuEditarColarItem, QKeySequence::Paste);
+    comando(mnuEditar, "mnuEditarExcluir", QStringLiteral("E&xcluir"), mnuEditarExcluir);
+    comando(mnuEditar, "mnuEditarTudo", QStringLiteral("Selecionar &tudo"), mnuEditarTudo, QKeySequence::SelectAll);
     mnuEditar->addSeparator();
 
     QMenu *banda = submenu(mnuEditar, QStringLiteral("mnuEditarBanda"), QStringLiteral("&Banda"));
-    banda->menuAction()->setEnabled(false);
-    item(banda, QStringLiteral("mnuEditarBandaAdicionar"), QStringLiteral("&Adicionar"), false);
-    item(banda, QStringLiteral("mnuEditarBandaInserir"), QStringLiteral("&Inserir"), false);
-    item(banda, QStringLiteral("mnuEditarBandaDuplicar"), QStringLiteral("&Duplicar"), false);
-    item(banda, QStringLiteral("mnuEditarBandaRemover"), QStringLiteral("&Remover"), false);
+    connect(banda, &QMenu::aboutToShow, this, &frmLumetaEdit::prepararMenuEditar);
+    comando(banda, "mnuEditarBandaAdicionar", QStringLiteral("&Adicionar"), mnuEditarBandaAdicionar);
+    comando(banda, "mnuEditarBandaInserir", QStringLiteral("&Inserir"), mnuEditarBandaInserir);
+    comando(banda, "mnuEditarBandaDuplicar", QStringLiteral("&Duplicar"), mnuEditarBandaDuplicar);
+    comando(banda, "mnuEditarBandaRemover", QStringLiteral("&Remover"), [](SessaoEdicao &s) { mnuEditarBandaRemover(s); });
     banda->addSeparator();
-    item(banda, QStringLiteral("mnuEditarBandaUp"), QStringLiteral("Mover para &cima"), false);
-    item(banda, QStringLiteral("mnuEditarBandaDown"), QStringLiteral("Mover para &baixo"), false);
+    comando(banda, "mnuEditarBandaUp", QStringLiteral("Mover para &cima"), mnuEditarBandaUp);
+    comando(banda, "mnuEditarBandaDown", QStringLiteral("Mover para &baixo"), mnuEditarBandaDown);
     banda->addSeparator();
-    item(banda, QStringLiteral("mnuEditarBandaAuto"), QStringLiteral("Alt&ura automática"), false);
-    item(banda, QStringLiteral("mnuEditarBandaPagina"), QStringLiteral("&Quebrar a Página"), false);
-    item(banda, QStringLiteral("mnuEditarBandaFonte"), QStringLiteral("&Fonte da banda..."), false);
+    comando(banda, "mnuEditarBandaAuto", QStringLiteral("Alt&ura automática"), mnuEditarBandaAuto);
+    comando(banda, "mnuEditarBandaPagina", QStringLiteral("&Quebrar a Página"),
+            [](SessaoEdicao &s) { mnuEditarBandaPagina(s); });
+    comando(banda, "mnuEditarBandaFonte", QStringLiteral("&Fonte da banda..."), mnuEditarBandaFonte);
     item(banda, QStringLiteral("mnuEditarBandaComentario"), QStringLiteral("&Comentário e Programação"), false);
 
     QMenu *itemMenu = submenu(mnuEditar, QStringLiteral("mnuEditarItem"), QStringLiteral("&Item"));
-    itemMenu->menuAction()->setEnabled(false);
-    item(itemMenu, QStringLiteral("mnuEditarItemAdicionar"), QStringLiteral("&Adicionar"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemInserir"), QStringLiteral("&Inserir"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemDuplicar"), QStringLiteral("&Duplicar"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemRemover"), QStringLiteral("&Remover"), false);
+    comando(itemMenu, "mnuEditarItemAdicionar", QStringLiteral("&Adicionar"), mnuEditarItemAdicionar);
+    comando(itemMenu, "mnuEditarItemInserir", QStringLiteral("&Inserir"), mnuEditarItemInserir);
+    comando(itemMenu, "mnuEditarItemDuplicar", QStringLiteral("&Duplicar"), mnuEditarItemDuplicar);
+    comando(itemMenu, "mnuEditarItemRemover", QStringLiteral("&Remover"), mnuEditarItemRemover);
     itemMenu->addSeparator();
-    item(itemMenu, QStringLiteral("mnuEditarItemLeft"), QStringLiteral("Mover para a &esquerda"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemRight"), QStringLiteral("Mover para a di&reita"), false);
+    comando(itemMenu, "mnuEditarItemLeft", QStringLiteral("Mover para a &esquerda"), mnuEditarItemLeft);
+    comando(itemMenu, "mnuEditarItemRight", QStringLiteral("Mover para a di&reita"), mnuEditarItemRight);
     itemMenu->addSeparator();
-    item(itemMenu, QStringLiteral("mnuEditarItemTexto"), QStringLiteral("Mudar para &Texto"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemFigura"), QStringLiteral("Mudar para &Figura"), false);
-    item(itemMenu, QStringLiteral("mnuEditarItemComando"), QStringLiteral("Mudar para C&omando"), false);
+    comando(itemMenu, "mnuEditarItemTexto", QStringLiteral("Mudar para &Texto"),
+            [](SessaoEdicao &s) { DefinirTipoItem(s, TipoTexto); });
+    comando(itemMenu, "mnuEditarItemFigura", QStringLiteral("Mudar para &Figura"),
+            [](SessaoEdicao &s) { DefinirTipoItem(s, TipoFigura); });
+    comando(itemMenu, "mnuEditarItemComando", QStringLiteral("Mudar para C&omando"),
+            [](SessaoEdicao &s) { DefinirTipoItem(s, TipoComando); });
+    // The barcode and style dialogs come with their own windows.
     item(itemMenu, QStringLiteral("mnuEditarItemCodigoBarras"), QStringLiteral("Mudar para Código de &Barras"), false);
     itemMenu->addSeparator();
     item(itemMenu, QStringLiteral("mnuEditarItemEstilo"), QStringLiteral("E&stilo"), false);
+
+    // The line buttons' shortcuts: Alt + 1..6 and Ctrl + the numeric pad's
+    // layout, on the digits and on the pad.
+    for (int tecla = Qt::Key_1; tecla <= Qt::Key_9; ++tecla)
+        for (Qt::KeyboardModifier mod : {Qt::AltModifier, Qt::ControlModifier}) {
+            const int n = BotaoLinhaDoAtalho(tecla, mod);
+            if (n == 0)
+                continue;
+            for (Qt::KeyboardModifiers extra : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
+                auto *atalho = new QShortcut(QKeySequence(QKeyCombination(mod | extra, Qt::Key(tecla))), this);
+                connect(atalho, &QShortcut::activated, this, [this, n] {
+                    AlternarLinha(m_sessao, n);
+                    picPagina->AtualizarMarcas();
+                });
+            }
+        }
 
     QMenu *macro = submenu(mnuEditar, QStringLiteral("mnuEditarMacro"), QStringLiteral("Inserir &macro"));
     macro->menuAction()->setEnabled(false);
@@ -369,7 +411,11 @@ void frmLumetaEdit::criarJanela()
     btnMagic->setFixedSize(30, 28);
     btnMagic->ShowFocusRect = false;
     btnMagic->setFocusPolicy(Qt::TabFocus);
-    connect(btnMagic, &XPButtonCtl::ValueChanged, this, [this](bool v) { m_sessao.Config.MagicItem = v; });
+    connect(btnMagic, &XPButtonCtl::ValueChanged, this, [this](bool v) {
+        m_sessao.Config.MagicItem = v;
+        if (!v)
+            OcultarMagico(m_sessao);
+    });
     lBarra->addWidget(btnMagic);
     lBarra->addStretch(1);
     imgResultado = new ImagemClicavel(barra);
@@ -435,6 +481,12 @@ void frmLumetaEdit::criarJanela()
     connect(hsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(-v, picPagina->y()); });
     connect(vsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(picPagina->x(), -v); });
     connect(picContainer, &PicContainer::Redimensionado, this, &frmLumetaEdit::AtualizarRolagem);
+    connect(picPagina, &PicPagina::MenuEditar, this, [this](const QPoint &p) { mnuEditar->popup(p); });
+    connect(picPagina, &PicPagina::Rolar, this, [this](int acao) {
+        const int novo = NovaRolagem(vsbPagina->value(), vsbPagina->pageStep(), vsbPagina->maximum(), AcaoRolagem(acao));
+        if (novo != vsbPagina->value())
+            vsbPagina->setValue(novo);
+    });
 
     // Result pane, its caption level with the tab so both panes start at
     // the same height.
@@ -511,7 +563,15 @@ void frmLumetaEdit::ligarSessao()
         // without waiting for the menu to open.
         prepararMenuEditar();
     };
-    g.SelecionarItem = [this] { MostrarSelecao(); };
+    g.SelecionarItem = [this] {
+        MostrarSelecao();
+        picPagina->AtualizarMarcas();
+    };
+    g.SelecionarBanda = [this] { picPagina->AtualizarMarcas(); };
+    g.Validar = [this] { prepararMenuEditar(); };
+    g.MagicoAlterado = [this] { picPagina->AtualizarMarcas(); };
+    g.AlcaAlterada = [this] { picPagina->AtualizarMarcas(); };
+    g.EsvaziarAreaTransferencia = [] { QGuiApplication::clipboard()->clear(); };
     g.RolagemInicial = [this] {
         hsbPagina->setValue(0);
         vsbPagina->setValue(0);
@@ -665,8 +725,17 @@ void frmLumetaEdit::MostrarSelecao()
 
 void frmLumetaEdit::prepararMenuEditar()
 {
-    Acao(QStringLiteral("mnuEditarDesfazer"))
-        ->setEnabled(!ehCaixaDeTexto(QApplication::focusWidget()) && m_sessao.PodeDesfazer());
+    const EstadoMenuEditar e = PrepararMenuEditar(m_sessao, ehCaixaDeTexto(QApplication::focusWidget()));
+    Acao(QStringLiteral("mnuEditarDesfazer"))->setEnabled(e.desfazer);
+    for (const char *nome : {"mnuEditarItemRemover", "mnuEditarItemDuplicar", "mnuEditarItemLeft", "mnuEditarItemRight"})
+        Acao(QString::fromLatin1(nome))->setEnabled(e.itemComandos);
+    Acao(QStringLiteral("mnuEditarItemTexto"))->setEnabled(e.tipoTexto);
+    Acao(QStringLiteral("mnuEditarItemFigura"))->setEnabled(e.tipoFigura);
+    Acao(QStringLiteral("mnuEditarItemComando"))->setEnabled(e.tipoComando);
+    QAction *pagina = Acao(QStringLiteral("mnuEditarBandaPagina"));
+    pagina->setEnabled(e.bandaPagina);
+    pagina->setText(e.legendaBandaPagina);
+    Acao(QStringLiteral("mnuEditarBandaAuto"))->setText(e.legendaBandaAuto);
 }
 
 void frmLumetaEdit::prepararMenuConfig()

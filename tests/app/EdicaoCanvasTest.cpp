@@ -1,0 +1,121 @@
+// The canvas of the real window driven with mouse and key events, as a user
+// edits a layout: handle drags, the magic item, range resizing, Delete.
+#include "app/gui/CanvasJanela.h"
+#include "app/gui/frmLumetaEdit.h"
+#include "editing/DesenhoSelecao.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+// A window on a layout of `bandas` bands of two 64-pixel items each.
+struct Editor {
+    teste::ConfigTemporaria cfg;
+    teste::InterfaceRoteirizada ui;
+    frmLumetaEdit janela{&ui};
+    SessaoEdicao &s = janela.Sessao();
+    PicPagina *pagina = nullptr;
+
+    explicit Editor(int bandas)
+    {
+        janela.Iniciar({});
+        for (int b = 1; b < bandas; ++b)
+            s.AddBanda(0, false, 0, 0);
+        for (int b = 1; b <= bandas; ++b)
+            s.AddItem(b, false, 0);
+        s.ConcluirEdicao();
+        janela.resize(1000, 700);
+        janela.show();
+        pagina = janela.picPagina;
+        pagina->setFocus();
+        QApplication::processEvents();
+    }
+    const Item &item(int b, int i) const { return s.Documento.banda(b).Itens[i - 1]; }
+    // The middle of item i of band b, in the canvas widget.
+    QPoint centro(int b, int i) const
+    {
+        const Banda &banda = s.Documento.banda(b);
+        return {item(b, i).Esquerda + 8 + item(b, i).Largura / 2, banda.Topo + std::abs(banda.Altura) / 2};
+    }
+};
+
+}  // namespace
+
+TEST(EdicaoCanvas, AlcaArrastadaMudaALarguraEmPassosDe8)
+{
+    Editor e(1);
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
+    ASSERT_EQ(e.s.ItemSelecionado, 1);
+    // The frame and its right handle are painted in the selection colour.
+    const QImage antes = e.pagina->grab().toImage();
+    EXPECT_EQ(antes.pixelColor(8 + 64 - 3, 16 + 9), CorSelecao);  // the handle's border
+    EXPECT_EQ(antes.pixelColor(8 + 64, 16 + 9), QColor(Qt::white));  // its hollow middle
+
+    const QString texto = e.s.TextoResultado;
+    const QPoint alca(8 + 64, 16 + 9);
+    QTest::mousePress(e.pagina, Qt::LeftButton, {}, alca);
+    QTest::mouseMove(e.pagina, alca + QPoint(7, 0));   // under one step: nothing
+    EXPECT_EQ(e.s.Alca.atual.width(), 64);
+    QTest::mouseMove(e.pagina, alca + QPoint(23, 3));  // two steps, the height stays
+    EXPECT_EQ(e.s.Alca.atual, QRect(8, 16, 80, 18));
+    // Only the rubber frame moves while the button is held.
+    EXPECT_EQ(e.item(1, 1).Largura, 64);
+    EXPECT_EQ(e.s.TextoResultado, texto);
+    QTest::mouseRelease(e.pagina, Qt::LeftButton, {}, alca + QPoint(23, 3));
+    EXPECT_EQ(e.item(1, 1).Largura, 80);
+    EXPECT_EQ(e.item(1, 2).Esquerda, 80);
+    EXPECT_NE(e.s.TextoResultado, texto);
+}
+
+TEST(EdicaoCanvas, CliqueNoItemMagicoAcrescentaItemDaSuaLargura)
+{
+    Editor e(1);
+    ASSERT_TRUE(e.s.Config.MagicItem);
+    // Right of the band's last item (which ends at 128): the ghost follows.
+    QTest::mouseMove(e.pagina, QPoint(150, 24));
+    ASSERT_TRUE(e.s.Magico.visivel);
+    const QRect fantasma = e.s.Magico.retangulo;
+    EXPECT_EQ(fantasma, QRect(136, 16, 24, 18));
+    EXPECT_EQ(e.s.Magico.legenda, QStringLiteral(" 24 x 18 px "));
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(150, 24));
+    ASSERT_EQ(e.s.Documento.banda(1).NumItens(), 3);
+    EXPECT_EQ(e.item(1, 3).Largura, 24);
+    EXPECT_TRUE(e.s.TextoResultado.contains(QStringLiteral("Texto 3")));
+}
+
+TEST(EdicaoCanvas, ShiftDireitaNumaFaixaAlargaTodosOsItens)
+{
+    Editor e(2);
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
+    QTest::mouseClick(e.pagina, Qt::LeftButton, Qt::ShiftModifier, e.centro(2, 2));
+    ASSERT_TRUE(e.s.Faixa.VariasBandas());
+    QTest::keyClick(e.pagina, Qt::Key_Right, Qt::ShiftModifier);
+    for (int b = 1; b <= 2; ++b)
+        for (int i = 1; i <= 2; ++i)
+            EXPECT_EQ(e.item(b, i).Largura, 72) << b << "," << i;
+    EXPECT_EQ(e.item(2, 2).Esquerda, 72);
+    // Ctrl+Shift is no resize: modifiers count only alone.
+    QTest::keyClick(e.pagina, Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(e.item(1, 1).Largura, 72);
+}
+
+TEST(EdicaoCanvas, DeleteSemItemRemoveABandaEDesfazVolta)
+{
+    Editor e(2);
+    // The band's empty part close to its last item: no item, no ghost.
+    const Banda &b2 = e.s.Documento.banda(2);
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(8 + 128 + 4, b2.Topo + 4));
+    ASSERT_EQ(e.s.BandaSelecionada, 2);
+    ASSERT_EQ(e.s.ItemSelecionado, 0);
+    QTest::keyClick(e.pagina, Qt::Key_Delete);
+    EXPECT_EQ(e.s.Documento.NumBandas(), 1);
+    EXPECT_EQ(e.s.BandaSelecionada, 1);
+    QTest::keyClick(&e.janela, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.s.Documento.NumBandas(), 2);
+}

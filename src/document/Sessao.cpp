@@ -25,9 +25,7 @@ void SessaoEditor::NovoLMT()
 
 void SessaoEditor::AposCarregar()
 {
-    for (int b = 1; b <= Documento.NumBandas(); ++b)
-        Documento.ReposicionarItem(b);
-    Documento.ReposicionarBanda();
+    Documento.ReposicionarTudo();
 }
 
 QString SessaoEditor::Titulo() const

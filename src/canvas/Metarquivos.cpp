@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QtEndian>
 #include <cstdlib>
 #include <memory>
 
@@ -19,8 +18,8 @@ namespace {
 // A picture larger than this is taken for a damaged size, not allocated.
 constexpr qint64 MaximoPixels = qint64(8192) * 8192;
 
-quint32 Le32(const QByteArray &d, int pos) { return qFromLittleEndian<quint32>(d.constData() + pos); }
-quint16 Le16(const QByteArray &d, int pos) { return qFromLittleEndian<quint16>(d.constData() + pos); }
+quint16 Le16(const QByteArray &d, int pos) { return quint16(uchar(d.at(pos)) | uchar(d.at(pos + 1)) << 8); }
+quint32 Le32(const QByteArray &d, int pos) { return Le16(d, pos) | quint32(Le16(d, pos + 2)) << 16; }
 
 QByteArray SvgDeWmf(const QByteArray &dados)
 {

@@ -4,11 +4,14 @@
 # when something is missing.
 set -euo pipefail
 
+# libwmf refuses every metafile when its fonts (fonts-urw-base35) are missing.
 PACOTES=(
   cmake ninja-build g++ pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   libzint-dev libzxing-dev
+  qt6-svg-dev libwmf-dev libemf2svg-dev
+  fonts-urw-base35
   fonts-liberation2 fontconfig
   gnucobol
   clang libclang-rt-14-dev

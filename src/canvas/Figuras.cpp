@@ -1,7 +1,9 @@
 #include "canvas/Figuras.h"
 
 #include "barcodes/CodigoBarras.h"
+#include "canvas/Metarquivos.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -55,6 +57,28 @@ QString ValorExibido(const QString &texto, const char *exemplo)
     return QString::fromLatin1(exemplo);
 }
 
+namespace {
+
+// Metafiles larger than this are not read into memory.
+constexpr qint64 MaximoMetarquivo = qint64(64) << 20;
+
+QImage LerFigura(const QString &nome, qint64 tamanho)
+{
+    QFile arquivo(nome);
+    if (!arquivo.open(QIODevice::ReadOnly))
+        return {};
+    if (TipoDeMetarquivo(arquivo.peek(88)) != TipoMetarquivo::Nenhum)
+        return tamanho <= MaximoMetarquivo ? LerMetarquivo(arquivo.read(tamanho)) : QImage();
+    QImageReader leitor(&arquivo);
+    leitor.setDecideFormatFromContent(true);
+    // Only the formats the report viewer loads too; anything else (PNG,
+    // SVG...) shows the error picture, as it would not print.
+    static const QList<QByteArray> formatos = {"bmp", "ico", "cur", "gif", "jpeg", "jpg"};
+    return formatos.contains(leitor.format().toLower()) ? leitor.read() : QImage();
+}
+
+}  // namespace
+
 const QImage &CacheFiguras::Figura(const QString &texto)
 {
     if (m_entradas.size() > 4096 && !m_entradas.contains(texto))
@@ -78,12 +102,7 @@ const QImage &CacheFiguras::Figura(const QString &texto)
             e.imagem = QImage();
             e.ok = false;
             if (existe) {
-                QImageReader leitor(nome);
-                leitor.setDecideFormatFromContent(true);
-                // Only the formats the report viewer loads too; anything else
-                // (PNG, SVG...) shows the error picture, as it would not print.
-                static const QList<QByteArray> formatos = {"bmp", "ico", "cur", "gif", "jpeg", "jpg"};
-                const QImage lida = formatos.contains(leitor.format().toLower()) ? leitor.read() : QImage();
+                const QImage lida = LerFigura(nome, tamanho);
                 e.ok = !lida.isNull();
                 if (e.ok)
                     e.imagem = lida.convertToFormat(lida.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied

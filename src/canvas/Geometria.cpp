@@ -43,14 +43,14 @@ bool CanvasPagina::CrescerLargura(const LayoutDocumento &doc)
 {
     if (!TamanhoTotal)
         return false;
-    int w = 0;
+    int64_t w = 0;
     for (const Banda &b : doc.Bandas) {
-        const int direita = b.Itens.isEmpty() ? 0 : b.Itens.last().Esquerda + b.Itens.last().Largura;
+        const int64_t direita = b.Itens.isEmpty() ? 0 : int64_t(b.Itens.last().Esquerda) + b.Itens.last().Largura;
         if (direita + 64 > w)
             w = direita + 128;
     }
     if (Tamanho.width() < w) {
-        Tamanho.setWidth(w);
+        Tamanho.setWidth(Limitar32(w));
         return true;
     }
     return false;
@@ -60,7 +60,7 @@ bool CanvasPagina::CrescerAltura(int fundoBanda)
 {
     if (!TamanhoTotal || fundoBanda <= Tamanho.height() - 64)
         return false;
-    Tamanho.setHeight(fundoBanda + 384);
+    Tamanho.setHeight(Limitar32(int64_t(fundoBanda) + 384));
     return true;
 }
 
@@ -103,21 +103,21 @@ QPoint RolarParaSelecao(const LayoutDocumento &doc, int banda, int item, QPoint 
         return atual;
     const Banda &b = doc.banda(banda);
     const Item &it = b.Itens[item - 1];
-    int v = atual.y();
-    const int fundo = b.Topo + std::abs(b.Altura);
-    if (fundo > atual.y() + viewport.height() - 8)
+    int64_t v = atual.y();
+    const int64_t fundo = int64_t(b.Topo) + Magnitude(b.Altura);
+    if (fundo > int64_t(atual.y()) + viewport.height() - 8)
         v = fundo - viewport.height() + 8;
-    else if (b.Topo < atual.y() + 8)
-        v = b.Topo - 8;
-    int h = atual.x();
-    const int direita = it.Esquerda + it.Largura;
-    if (direita > atual.x() + viewport.width() - 16)
+    else if (b.Topo < int64_t(atual.y()) + 8)
+        v = int64_t(b.Topo) - 8;
+    int64_t h = atual.x();
+    const int64_t direita = int64_t(it.Esquerda) + it.Largura;
+    if (direita > int64_t(atual.x()) + viewport.width() - 16)
         h = direita - viewport.width() + 16;
     else if (it.Esquerda < atual.x())
         h = it.Esquerda;
-    v = std::clamp(v, 0, std::max(0, maximo.y()));
-    h = std::clamp(h, 0, std::max(0, maximo.x()));
-    return QPoint(h, v);
+    v = std::clamp<int64_t>(v, 0, std::max(0, maximo.y()));
+    h = std::clamp<int64_t>(h, 0, std::max(0, maximo.x()));
+    return QPoint(int(h), int(v));
 }
 
 QPoint MaximoRolagem(QSize canvas, QSize viewport)

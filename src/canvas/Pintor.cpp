@@ -27,11 +27,6 @@ const FonteItem &FonteCanvas()
     return f;
 }
 
-int32_t Limitar32(qint64 v)
-{
-    return int32_t(std::clamp<qint64>(v, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()));
-}
-
 int Arredondar(double v)
 {
     return int(std::nearbyint(v));
@@ -217,8 +212,8 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
     const bool texto = !figura && !barras && !grafico;
     // Pictures, symbols, bars and unclipped text may reach out of their cell.
     const bool transborda = !texto || PosicaoLigada(it.Atributos, 8);
-    const int esquerda = it.Esquerda + DeslocamentoItens;
-    const int direita = esquerda + it.Largura;  // exclusive
+    const int esquerda = Limitar32(int64_t(it.Esquerda) + DeslocamentoItens);
+    const int direita = Limitar32(int64_t(esquerda) + it.Largura);  // exclusive
     const bool celulaVisivel = bandaVisivel && esquerda <= c.area.right() && direita > c.area.left();
     if (!celulaVisivel && !transborda)
         return;
@@ -226,7 +221,7 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
     const CoresMacro cores = it.Texto.contains(QLatin1Char('<')) && it.Texto.contains(QLatin1String("<%_"))
         ? MacroColor(it.Texto)
         : CoresMacro{it.Texto};
-    const QRect celula(esquerda, topo, it.Largura, fundo - topo);
+    const QRect celula(esquerda, topo, direita - esquerda, fundo - topo);
 
     if (celulaVisivel) {
         Contorno(c.p, esquerda, topo, direita - 1, fundo - 1, QColor(230, 230, 230));
@@ -253,15 +248,15 @@ void PintarSelecao(QPainter &p, const LayoutDocumento &doc, const OpcoesPintura 
     if (op.bandaSelecionada < 1 || op.bandaSelecionada > doc.NumBandas())
         return;
     const Banda &b = doc.banda(op.bandaSelecionada);
-    const int topo = b.Topo, altura = std::abs(b.Altura);
+    const int topo = b.Topo, y2 = Limitar32(int64_t(topo) + Magnitude(b.Altura) - 1);
     const QColor marca(0, 0, 128);
-    Caixa(p, 0, topo, 0, topo + altura - 1, marca);
+    Caixa(p, 0, topo, 0, y2, marca);
     if (op.itemSelecionado < 1 || op.itemSelecionado > b.NumItens())
         return;
     const Item &it = b.Itens[op.itemSelecionado - 1];
-    const int x1 = it.Esquerda + DeslocamentoItens, x2 = x1 + it.Largura - 1, y2 = topo + altura - 1;
+    const int x1 = Limitar32(int64_t(it.Esquerda) + DeslocamentoItens), x2 = Limitar32(int64_t(x1) + it.Largura - 1);
     Contorno(p, x1, topo, x2, y2, marca);
-    const int xm = (x1 + x2) / 2, ym = (topo + y2) / 2;
+    const int xm = int((int64_t(x1) + x2) / 2), ym = int((int64_t(topo) + y2) / 2);
     const QPoint alcas[] = {{x1, topo}, {xm, topo}, {x2, topo}, {x1, ym}, {x2, ym}, {x1, y2}, {xm, y2}, {x2, y2}};
     for (const QPoint &a : alcas)
         Caixa(p, a.x() - 2, a.y() - 2, a.x() + 2, a.y() + 2, marca);
@@ -278,7 +273,10 @@ int AlturaBarrasCodigo(const Item &item, int alturaBanda)
 {
     const int angulo = AnguloAtributos(item.Atributos);
     const bool deitado = angulo == 90 || angulo == 270;
-    const int h = (deitado ? item.Largura : alturaBanda) - (MostrarDigitosCodigo(item) ? 12 : 0);
+    // Type 37 hides its digits but its encoder turns their 12 rows into bar,
+    // so it leaves them out here like a symbol that shows them.
+    const bool linhaLegivel = MostrarDigitosCodigo(item) || item.Tipo == TipoInterlace25SemNumeros;
+    const int h = Limitar32(int64_t(deitado ? item.Largura : alturaBanda) - (linhaLegivel ? 12 : 0));
     const QChar pos10 = item.Atributos.size() >= 10 ? item.Atributos[9] : QChar();
     if (PosicaoLigada(item.Atributos, 8))
         return pos10 == QLatin1Char('1') ? std::max(h, 40) : 40;
@@ -312,9 +310,15 @@ ResultadoAlturas AtualizarAlturas(LayoutDocumento &doc, int bandaSelecionada, Me
                 r.selecionadaAutomatica = true;
         }
         topoAnterior = b.Topo;
-        fundoAnterior = qint64(b.Topo) + std::abs(qint64(b.Altura));
+        fundoAnterior = qint64(b.Topo) + Magnitude(b.Altura);
     }
     return r;
+}
+
+void PrepararLayoutAberto(LayoutDocumento &doc, MedidorAltura &medidor)
+{
+    doc.ReposicionarTudo();
+    AtualizarAlturas(doc, 1, medidor);
 }
 
 ResultadoRepintura PrepararRepintura(LayoutDocumento &doc, int bandaSelecionada, CanvasPagina &canvas,

@@ -56,6 +56,13 @@ struct ResultadoAlturas {
 // below the height just computed for the one before it.
 ResultadoAlturas AtualizarAlturas(LayoutDocumento &doc, int bandaSelecionada, MedidorAltura &medidor);
 
+// The model as the editor holds it once a layout file is open, before it
+// shows anything (band 1 selected): every band's items laid side by side
+// (a file may carry stale positions), then AtualizarAlturas, the step every
+// repaint of the edit cycle runs. Whatever writes a layout's command text
+// without the window runs this first, so it writes what the result pane shows.
+void PrepararLayoutAberto(LayoutDocumento &doc, MedidorAltura &medidor);
+
 struct ResultadoRepintura {
     bool memoriaInsuficiente = false;    // MensagemMemoriaInsuficiente was due
     bool selecionadaAutomatica = false;

@@ -1,5 +1,7 @@
 #include "document/Configuracoes.h"
 
+#include <algorithm>
+
 #include <QSettings>
 #include <memory>
 
@@ -59,7 +61,8 @@ void Configuracoes::Ler()
     NoCobolUsarString = lerBooleano(*s, "No COBOL usar STRING", true);
     MagicItem = lerBooleano(*s, "MagicItem", true);
     FontePadrao.Nome = lerTexto(*s, "FontName", QStringLiteral("Arial"));
-    FontePadrao.Tamanho = int16_t(lerInteiro(*s, "FontSize", 10));
+    // The font dialog gives 1 to 99 points; the command text has two digits for it.
+    FontePadrao.Tamanho = int16_t(std::clamp(lerInteiro(*s, "FontSize", 10), 1, 99));
     FontePadrao.Negrito = lerBooleano(*s, "FontBold", false);
     FontePadrao.Italico = lerBooleano(*s, "FontItalic", false);
     FontePadrao.Sublinhado = lerBooleano(*s, "FontUnderline", false);

@@ -31,9 +31,9 @@ void LayoutDocumento::QuebraPaginaRemove(int banda)
 
 void LayoutDocumento::ReposicionarItem(int n)
 {
-    int32_t soma = 0;
+    int64_t soma = 0;
     for (Item &item : banda(n).Itens) {
-        item.Esquerda = soma;
+        item.Esquerda = Limitar32(soma);
         soma += item.Largura;
     }
 }
@@ -45,12 +45,16 @@ void LayoutDocumento::ReposicionarBanda()
     Bandas[0].Topo = 16;
     for (qsizetype i = 1; i < Bandas.size(); ++i) {
         const Banda &anterior = Bandas[i - 1];
-        const int32_t fundo = anterior.Topo + std::abs(anterior.Altura);
-        int32_t topo = fundo + Bandas[i].Deslocamento;
-        if (topo < anterior.Topo)
-            topo = anterior.Topo;
-        Bandas[i].Topo = topo;
+        const int64_t fundo = int64_t(anterior.Topo) + Magnitude(anterior.Altura);
+        Bandas[i].Topo = std::max(Limitar32(fundo + Bandas[i].Deslocamento), anterior.Topo);
     }
+}
+
+void LayoutDocumento::ReposicionarTudo()
+{
+    for (int b = 1; b <= NumBandas(); ++b)
+        ReposicionarItem(b);
+    ReposicionarBanda();
 }
 
 QString VersaoCompleta()

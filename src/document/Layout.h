@@ -5,9 +5,21 @@
 
 #include <QList>
 #include <QString>
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 
 namespace lumeta {
+
+// Positions are sums of stored widths, heights and displacements, any of
+// which a hand-made or damaged file may set near the ends of the 32-bit
+// range: such sums stop at those ends instead of wrapping round.
+inline int32_t Limitar32(int64_t v)
+{
+    return int32_t(std::clamp<int64_t>(v, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()));
+}
+// The extent of a height that may be stored negated (automatic), |INT32_MIN| included.
+inline int32_t Magnitude(int32_t v) { return Limitar32(v < 0 ? -int64_t(v) : int64_t(v)); }
 
 // Item type codes as stored in Item::Tipo.
 enum TipoItem : uint8_t {
@@ -102,6 +114,9 @@ struct LayoutDocumento {
 
     void ReposicionarItem(int banda);
     void ReposicionarBanda();
+    // Every band's items and then the bands: what stored positions mean once
+    // a file is read, since the file's own may be stale.
+    void ReposicionarTudo();
 };
 
 // Window and product names shared by the captions, messages and file header.

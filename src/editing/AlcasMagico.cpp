@@ -121,7 +121,7 @@ QRect MoverArrasteAlca(SessaoEdicao &s, QPointF ponto)
         const Banda &anterior = doc.banda(s.BandaSelecionada - 1);
         topoMinimo = anterior.Topo;
         Banda &banda = doc.banda(s.BandaSelecionada);
-        const int32_t minimo = -std::abs(anterior.Altura);
+        const int32_t minimo = -Magnitude(anterior.Altura);
         if (banda.Deslocamento < minimo)
             banda.Deslocamento = minimo;
     }
@@ -193,7 +193,7 @@ void SoltarArrasteAlca(SessaoEdicao &s)
         AplicarLargura(s, a.atual.width());
         mudou = true;
     }
-    if (a.atual.height() != std::abs(banda.Altura)) {
+    if (a.atual.height() != Magnitude(banda.Altura)) {
         AplicarAltura(s, a.atual.height());
         mudou = true;
     }

@@ -125,7 +125,7 @@ void mnuEditarBandaAuto(SessaoEdicao &sessao)
         if (n < 1 || n > doc.NumBandas())
             continue;
         Banda &b = doc.banda(n);
-        b.Altura = b.Altura >= 1 ? 0 : std::abs(b.Altura);
+        b.Altura = b.Altura >= 1 ? 0 : Magnitude(b.Altura);
     }
     sessao.ExibirBanda();
     MostrarSelecao(sessao);

@@ -19,7 +19,7 @@ QRect marcadorBanda(const SessaoEdicao &s)
     if (s.BandaSelecionada < 1 || s.BandaSelecionada > doc.NumBandas())
         return {};
     const Banda &b = doc.banda(s.BandaSelecionada);
-    return QRect(0, b.Topo, LarguraMarcador, std::max(1, std::abs(b.Altura)));
+    return QRect(0, b.Topo, LarguraMarcador, std::max<int32_t>(1, Magnitude(b.Altura)));
 }
 
 // A frame drawn on the pixels just inside `r`.

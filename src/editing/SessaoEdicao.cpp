@@ -256,9 +256,7 @@ void SessaoEdicao::DesfazerEdicao()
 
 void SessaoEdicao::AposCarregar()
 {
-    for (int b = 1; b <= Documento.NumBandas(); ++b)
-        Documento.ReposicionarItem(b);
-    Documento.ReposicionarBanda();
+    Documento.ReposicionarTudo();
     chamar(Ganchos.Titulo);
     chamar(Ganchos.RolagemInicial);
     // The repaint stores the loaded state in slot 1, which then becomes the

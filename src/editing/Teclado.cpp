@@ -105,7 +105,7 @@ bool comShift(SessaoEdicao &s, int tecla)
         const int passo = tecla == Qt::Key_Left ? -8 : 8;
         AplicarLargura(s, std::clamp(atual + passo, MinimoTeclado, MaximoTeclado));
     } else {
-        const int atual = std::abs(banda.Altura);
+        const int atual = Magnitude(banda.Altura);
         const int passo = tecla == Qt::Key_Up ? -8 : 8;
         AplicarAltura(s, std::clamp(atual + passo, MinimoTeclado, MaximoTeclado));
     }

@@ -114,6 +114,13 @@ QString LimparNomeLinguagem(const QString &nome)
     for (QChar &c : r)
         if (QStringView(u"\\/:*?\"<>|").contains(c))
             c = QLatin1Char('_');
+    // Leading dots would give a hidden file that the languages list never
+    // shows, and "." and ".." name folders.
+    for (QChar &c : r) {
+        if (c != QLatin1Char('.'))
+            break;
+        c = QLatin1Char('_');
+    }
     return r;
 }
 

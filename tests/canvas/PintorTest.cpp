@@ -376,11 +376,34 @@ TEST(Pintor, AlturaDasBarrasDoCodigo)
     // Type 37 never shows its digits.
     it.Tipo = TipoInterlace25SemNumeros;
     EXPECT_FALSE(MostrarDigitosCodigo(it));
-    EXPECT_EQ(altura("0000000000", 30), 30);
     it.Tipo = TipoInterlace25;
     EXPECT_TRUE(MostrarDigitosCodigo(it));
     it.Atributos = QStringLiteral("0000001000");
     EXPECT_FALSE(MostrarDigitosCodigo(it));
+}
+
+TEST(Pintor, Intercalado25SemNumerosTemOTamanhoDoComNumeros)
+{
+    // Stretched to an 80-pixel band: type 35 has 68 rows of bars and 12 of
+    // digits; type 37 has no digits and its bars take their 12 rows, so both
+    // fill the band and nothing runs out of it.
+    const auto preto = [](QRgb p) { return (p & 0xFFFFFF) == 0; };
+    for (const auto &[tipo, atributos] : {std::pair{TipoInterlace25SemNumeros, "0000000001"},
+                                          std::pair{TipoInterlace25SemNumeros, "0000001001"},
+                                          std::pair{TipoInterlace25, "0000000001"}}) {
+        Item it = NovoItem(QStringLiteral("\"1234\""), 200);
+        it.Tipo = tipo;
+        it.Atributos = QString::fromLatin1(atributos);
+        const QImage img = Pintar(UmaBanda(it, 80));
+        const QRect tinta = CaixaTinta(img, preto, QRect(8, 0, 200, 200));
+        EXPECT_EQ(tinta.top(), 16) << tipo;
+        EXPECT_LE(tinta.bottom(), 16 + 79) << tipo;
+        // The first bar (start pattern) of a symbol without digits reaches the band's bottom row.
+        if (tipo == TipoInterlace25SemNumeros)
+            EXPECT_TRUE(Todos(img, QRect(9, 16, 1, 80), Preto)) << atributos;
+        else
+            EXPECT_TRUE(Todos(img, QRect(9, 16, 1, 68), Preto));
+    }
 }
 
 TEST(Pintor, CodigoDeBarrasAmpliadoEPosicionado)

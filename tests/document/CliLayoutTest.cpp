@@ -1,7 +1,12 @@
 // The command-line tool as scripts call it: bytes on stdout, messages on
 // stderr, exit status.
 #include "document/ArquivoLMT.h"
+#include "document/Texto1252.h"
 #include "editing/SessaoEdicao.h"
+#include "output/CopiarComo.h"
+#include "output/Linguagem.h"
+#include "output/TextoComandos.h"
+#include "support/ConfigTemporaria.h"
 #include "support/TestSupport.h"
 
 #include <QProcess>
@@ -18,9 +23,10 @@ struct Execucao {
     QByteArray erros;
 };
 
-Execucao Cli(const QStringList &args)
+Execucao Cli(const QStringList &args, const QString &pasta = QString())
 {
     QProcess p;
+    p.setWorkingDirectory(pasta);
     p.start(QStringLiteral(LUMETA_CLI), args);
     p.waitForFinished(60000);
     return {p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError()};
@@ -77,10 +83,51 @@ TEST(Cli, ErrosDaoAMensagemDoEditorECodigoDeSaida)
 
     r = Cli({QStringLiteral("texto")});
     EXPECT_EQ(r.codigo, 2);
+    // An option is never taken for a file name.
+    r = Cli({QStringLiteral("novo"), QStringLiteral("--help")}, dir.path());
+    EXPECT_EQ(r.codigo, 2);
+    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Uso: lumetaedit-cli novo")));
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("--help"))));
     r = Cli({QStringLiteral("inexistente")});
     EXPECT_EQ(r.codigo, 2);
     r = Cli({QStringLiteral("ajuda")});
     EXPECT_EQ(r.codigo, 0);
     for (const char *cmd : {"novo SAIDA.lmt", "texto ARQUIVO.lmt", "comandos ARQUIVO.lmt"})
         EXPECT_TRUE(r.saida.contains(cmd)) << cmd;
+}
+
+TEST(Cli, PosicoesVelhasDoArquivoDaoOTextoDoPainelDoEditor)
+{
+    teste::ConfigTemporaria config;
+    QTemporaryDir dir;
+    // Every stored position is stale, in the selected band and in the others.
+    LayoutDocumento doc;
+    Banda b1, b2;
+    b1.Topo = 900;
+    b1.Itens = {teste::NovoItem(TipoTexto, QStringLiteral("A"), 500, 40),
+                teste::NovoItem(TipoComando, QStringLiteral("WS-A"), 3, 70)};
+    b2.Topo = -5;
+    b2.Altura = 0;
+    b2.Itens = {teste::NovoItem(TipoTexto, QStringLiteral("B"), 77, 30),
+                teste::NovoItem(TipoTexto, QStringLiteral("C"), 0, 50)};
+    doc.Bandas = {b1, b2};
+    const QString caminho = dir.filePath(QStringLiteral("velho.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(caminho, doc).ok);
+    const QString lin = dir.filePath(QStringLiteral("cobol.lin"));
+    ASSERT_EQ(GravarArquivoLinguagem(lin, LinguagemPadrao()).resultado, ResultadoLin::Ok);
+
+    SessaoEdicao editor;
+    ASSERT_EQ(editor.AbrirLMT(caminho), SessaoEdicao::ResultadoAbrir::Aberto);
+    ASSERT_NE(editor.TextoResultado, GerarTextoComandos(doc));  // the stale positions would show
+
+    Execucao r = Cli({QStringLiteral("texto"), caminho});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(r.saida, Para1252(editor.TextoResultado));
+    r = Cli({QStringLiteral("comandos"), caminho});
+    EXPECT_EQ(r.saida, Para1252(ListaComandosUtilizados(editor.Documento)));
+    LinguagemDef ling;
+    ASSERT_EQ(LerArquivoLinguagem(lin, ling).resultado, ResultadoLin::Ok);
+    ling.CobolString = true;
+    r = Cli({QStringLiteral("copiar-como"), lin, caminho, QStringLiteral("--string")});
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(editor.Documento, ling)));
 }

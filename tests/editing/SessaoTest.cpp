@@ -259,6 +259,13 @@ TEST_F(SessaoTest, ConfiguracoesTemPadroesTextosBooleanosERecentesSemDuplicatas)
     EXPECT_FALSE(lida.MagicItem);
     EXPECT_TRUE(lida.FontesImpressora);
     EXPECT_EQ(lida.FontePadrao.Tamanho, 13);
+    // A hand-edited size stays within the two digits of the command text.
+    for (const auto &[escrito, lido] : {std::pair{"500", 99}, std::pair{"0", 1}, std::pair{"-7", 1}}) {
+        std::unique_ptr<QSettings>(AbrirConfig())->setValue(QStringLiteral("FontSize"), QString::fromLatin1(escrito));
+        Configuracoes c2;
+        c2.Ler();
+        EXPECT_EQ(c2.FontePadrao.Tamanho, lido) << escrito;
+    }
 
     EXPECT_EQ(ListaRecentes({QStringLiteral("c:\\A.LMT"), QStringLiteral("d.lmt"), QStringLiteral("e.lmt"),
                              QStringLiteral("f.lmt")},

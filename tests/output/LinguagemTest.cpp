@@ -228,6 +228,8 @@ TEST_F(PastaLinguagensTeste, NomesListaEPasta)
 {
     EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("meu:cobol")), QStringLiteral("meu_cobol"));
     EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("a\\b/c:d*e?f\"g<h>i|j k.l")), QStringLiteral("a_b_c_d_e_f_g_h_i_j k.l"));
+    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral(".")), QStringLiteral("_"));
+    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("..")), QStringLiteral("__"));
     EXPECT_TRUE(NomeEhCobol(QStringLiteral("meu_cobol")));
     EXPECT_TRUE(NomeEhCobol(QStringLiteral("MicroFocus COBOL 85")));
     EXPECT_TRUE(NomeEhCobol(QStringLiteral("xCoBoLx")));
@@ -243,13 +245,16 @@ TEST_F(PastaLinguagensTeste, NomesListaEPasta)
     EXPECT_FALSE(LinguagemExiste(QStringLiteral("meu:cobol")));
     EXPECT_EQ(MensagemLinguagemExiste(QStringLiteral("meu_cobol")), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
 
+    // A name of dots is a language the list shows, not a hidden file.
+    ASSERT_TRUE(NovaLin(LimparNomeLinguagem(QStringLiteral("..")), def, &ui));
     for (const char *n : {"Zeta.lin", "alfa.lin", "Beta.LIN", "leia.txt", "semextensao"})
         teste::GravarArquivoTeste(caminho(QString::fromUtf8(n)), CodificarLin(LinguagemPadrao()));
     ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     EXPECT_EQ(ListarLinguagens(true),
-              (QStringList{QStringLiteral("alfa"), QStringLiteral("Beta"), QStringLiteral("meu_cobol"), QStringLiteral("Zeta")}));
-    EXPECT_EQ(ListarLinguagens(false),
-              (QStringList{QStringLiteral("Beta"), QStringLiteral("Zeta"), QStringLiteral("alfa"), QStringLiteral("meu_cobol")}));
+              (QStringList{QStringLiteral("__"), QStringLiteral("alfa"), QStringLiteral("Beta"), QStringLiteral("meu_cobol"),
+                           QStringLiteral("Zeta")}));
+    EXPECT_EQ(ListarLinguagens(false), (QStringList{QStringLiteral("Beta"), QStringLiteral("Zeta"), QStringLiteral("__"),
+                                                    QStringLiteral("alfa"), QStringLiteral("meu_cobol")}));
 
     EXPECT_EQ(PastaLinguagens(), pasta.Pasta());
     qunsetenv(VariavelPastaLinguagens);

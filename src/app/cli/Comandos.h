@@ -8,11 +8,12 @@
 #include <functional>
 #include <vector>
 
-#include "document/Layout.h"
+#include "canvas/Pintor.h"
 
 namespace lumeta::cli {
 
 using lumeta::LayoutDocumento;
+using lumeta::RecursosCanvas;
 
 struct Saidas {
     std::function<void(const QByteArray &)> out;  // raw bytes to standard output
@@ -33,8 +34,20 @@ struct DefinicaoComando {
 };
 std::vector<DefinicaoComando> &TodosComandos();
 
-// Shared by the commands that read a layout: on failure prints the editor's
-// message and returns false.
-bool CarregarLayout(const QString &caminho, LayoutDocumento &destino, Saidas &io);
+// Whether an argument is an option ("-h", "--help"...): commands that take
+// only file names refuse it rather than create a file of that name.
+inline bool TemOpcao(const QStringList &args)
+{
+    for (const QString &a : args)
+        if (a.size() > 1 && a.startsWith(QLatin1Char('-')))
+            return true;
+    return false;
+}
+
+// Shared by the commands that read a layout: reads it into the session and
+// lays it out as the editor does once it opens the file, so what the command
+// writes is what the editor shows. On failure prints the editor's message and
+// returns false.
+bool CarregarLayout(const QString &caminho, LayoutDocumento &doc, RecursosCanvas &recursos, Saidas &io);
 
 }  // namespace lumeta::cli

@@ -45,7 +45,8 @@ const ComandoCli codigoBarras(60, "codigo-barras", kUso,
                 posicionais.append(a);
             }
         }
-        if (posicionais.size() != 3)
+        // The value may start with "-" (Code 39 has it); the file name may not.
+        if (posicionais.size() != 3 || TemOpcao({posicionais[2]}))
             return usoErrado(io);
         bool ok = false;
         const int tipo = posicionais[0].toInt(&ok);

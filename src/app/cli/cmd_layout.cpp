@@ -19,7 +19,7 @@ int usoErrado(Saidas &io, const char *uso)
 const ComandoCli novo(10, "novo", "novo SAIDA.lmt",
     "Grava um layout novo: uma banda com o item \"Texto 1\", como o comando Novo do editor.",
     [](const QStringList &args, Saidas &io) {
-        if (args.size() != 1)
+        if (args.size() != 1 || TemOpcao(args))
             return usoErrado(io, "novo SAIDA.lmt");
         SessaoEdicao sessao;
         const ResultadoArquivo r = GravarArquivoLMT(args[0], sessao.Documento);
@@ -34,10 +34,11 @@ const ComandoCli texto(20, "texto", "texto ARQUIVO.lmt",
     "Escreve na saída padrão o arquivo texto de comandos do layout, exatamente os bytes\n"
     "que o Lumeta.exe lê (Windows-1252, linhas terminadas por CR LF).",
     [](const QStringList &args, Saidas &io) {
-        if (args.size() != 1)
+        if (args.size() != 1 || TemOpcao(args))
             return usoErrado(io, "texto ARQUIVO.lmt");
         LayoutDocumento doc;
-        if (!CarregarLayout(args[0], doc, io))
+        RecursosCanvas recursos;
+        if (!CarregarLayout(args[0], doc, recursos, io))
             return 1;
         io.out(Para1252(GerarTextoComandos(doc)));
         return 0;
@@ -47,10 +48,11 @@ const ComandoCli comandos(30, "comandos", "comandos ARQUIVO.lmt",
     "Escreve os textos distintos dos itens de comando do layout, um por linha\n"
     "(o mesmo que Editar > Copiar como > Comandos utilizados).",
     [](const QStringList &args, Saidas &io) {
-        if (args.size() != 1)
+        if (args.size() != 1 || TemOpcao(args))
             return usoErrado(io, "comandos ARQUIVO.lmt");
         LayoutDocumento doc;
-        if (!CarregarLayout(args[0], doc, io))
+        RecursosCanvas recursos;
+        if (!CarregarLayout(args[0], doc, recursos, io))
             return 1;
         io.out(Para1252(ListaComandosUtilizados(doc)));
         return 0;

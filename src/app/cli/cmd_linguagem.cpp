@@ -56,7 +56,7 @@ const ComandoCli copiarComo(40, "copiar-como", kUsoCopiarComo,
             } else if (a == QLatin1String("--continuacao")) {
                 cobolString = false;
                 ++formas;
-            } else if (a.startsWith(QLatin1String("--"))) {
+            } else if (TemOpcao({a})) {
                 return usoErrado(io, kUsoCopiarComo);
             } else {
                 pos.append(a);
@@ -74,7 +74,8 @@ const ComandoCli copiarComo(40, "copiar-como", kUsoCopiarComo,
         if (!lerLinguagem(pos[0], ling, io))
             return 1;
         LayoutDocumento doc;
-        if (!CarregarLayout(pos[1], doc, io))
+        RecursosCanvas recursos;
+        if (!CarregarLayout(pos[1], doc, recursos, io))
             return 1;
         const QByteArray codigo = Para1252(GerarCopiarComo(doc, ling));
         if (pos.size() == 2) {
@@ -101,7 +102,7 @@ const ComandoCli linguagem(50, "linguagem", kUsoLinguagem,
             io.out(saida);
             return 0;
         }
-        if (args.size() != 2 || args[0] != QLatin1String("nova") || args[1].isEmpty())
+        if (args.size() != 2 || args[0] != QLatin1String("nova") || args[1].isEmpty() || TemOpcao(args))
             return usoErrado(io, kUsoLinguagem);
         const QString nome = LimparNomeLinguagem(args[1]);
         if (LinguagemExiste(nome)) {

@@ -15,22 +15,17 @@ const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
     "Grava em SAIDA.png o desenho do layout na página, como o editor o exibe\n"
     "(tamanho total, alturas automáticas calculadas, sem as marcas de seleção).",
     [](const QStringList &args, Saidas &io) {
-        if (args.size() != 2) {
+        if (args.size() != 2 || TemOpcao(args)) {
             io.err(QStringLiteral("Uso: lumetaedit-cli png ARQUIVO.lmt SAIDA.png"));
             return 2;
         }
         LayoutDocumento doc;
-        if (!CarregarLayout(args[0], doc, io))
+        RecursosCanvas recursos;
+        if (!CarregarLayout(args[0], doc, recursos, io))
             return 1;
-        // The editor opens a file with band 1 selected and every band laid out.
-        for (int b = 1; b <= doc.NumBandas(); ++b)
-            doc.ReposicionarItem(b);
-        doc.ReposicionarBanda();
-
         CanvasPagina canvas;
         const QScreen *tela = QGuiApplication::primaryScreen();
         canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
-        RecursosCanvas recursos;
         const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);
         if (r.memoriaInsuficiente)
             io.err(MensagemMemoriaInsuficiente);

@@ -2,6 +2,7 @@
 // pipelines. Every output is byte for byte what the editor itself produces.
 
 #include "app/cli/Comandos.h"
+#include "canvas/Pintor.h"
 #include "document/ArquivoLMT.h"
 
 #include <QGuiApplication>
@@ -23,12 +24,15 @@ ComandoCli::ComandoCli(int ordem, const char *nome, const char *uso, const char 
                                QString::fromUtf8(descricao), std::move(f)});
 }
 
-bool CarregarLayout(const QString &caminho, LayoutDocumento &destino, Saidas &io)
+bool CarregarLayout(const QString &caminho, LayoutDocumento &doc, RecursosCanvas &recursos, Saidas &io)
 {
-    const ResultadoArquivo r = AbrirArquivoLMT(caminho, destino);
-    if (!r.ok)
+    const ResultadoArquivo r = AbrirArquivoLMT(caminho, doc);
+    if (!r.ok) {
         io.err(r.mensagem);
-    return r.ok;
+        return false;
+    }
+    PrepararLayoutAberto(doc, recursos.Medidor);
+    return true;
 }
 
 namespace {

@@ -6,7 +6,7 @@ set -euo pipefail
 
 PACOTES=(
   cmake ninja-build g++ pkg-config
-  qt6-base-dev qt6-base-dev-tools libgl-dev
+  qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n
   libgtest-dev libgmock-dev libbenchmark-dev
   libzint-dev libzxing-dev
   fonts-liberation2 fontconfig

@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QInputDialog>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
+#include <QTranslator>
 
 namespace lumeta {
 
@@ -42,6 +46,18 @@ QString extensaoDoFiltro(const QString &filtro)
 }
 
 }  // namespace
+
+QTranslator *CarregarTraducoesQt(QCoreApplication &app)
+{
+    auto *t = new QTranslator(&app);
+    if (!t->load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        delete t;
+        return nullptr;
+    }
+    QCoreApplication::installTranslator(t);
+    return t;
+}
 
 void InterfaceUsuarioQt::Mensagem(const QString &texto, const QString &titulo, Icone icone)
 {

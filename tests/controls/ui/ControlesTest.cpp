@@ -472,6 +472,8 @@ TEST(InterfaceUsuarioQt, BotoesDoQtEmPortuguesComAsTraducoesCarregadas)
     EXPECT_EQ(m.button(QMessageBox::Close)->text(), QStringLiteral("Fechar"));
     EXPECT_NE(QFileDialog::tr("%1 already exists.\nDo you want to replace it?"),
               QStringLiteral("%1 already exists.\nDo you want to replace it?"));
+    EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder", "All other platforms"),
+              QStringLiteral("Pasta"));
     delete traducao;
     QMessageBox ingles(QMessageBox::Warning, QString(), QString(), QMessageBox::Cancel);
     EXPECT_EQ(ingles.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));

@@ -1,7 +1,7 @@
-// Benchmarks of the core. A benchmark whose label reads "base=NAME" is printed
+// Benchmarks of the core and of the main window. A benchmark whose label reads "base=NAME" is printed
 // again at the end as a ratio to NAME (a memcpy of the same number of bytes,
 // measured in the same run), so figures compare across machines.
-#include <QGuiApplication>
+#include <QApplication>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
@@ -46,7 +46,7 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -7,7 +7,7 @@ set -euo pipefail
 # libwmf refuses every metafile when its fonts (fonts-urw-base35) are missing.
 PACOTES=(
   cmake ninja-build g++ pkg-config
-  qt6-base-dev qt6-base-dev-tools libgl-dev
+  qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n
   libgtest-dev libgmock-dev libbenchmark-dev
   libzint-dev libzxing-dev
   qt6-svg-dev libwmf-dev libemf2svg-dev

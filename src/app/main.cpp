@@ -1,6 +1,7 @@
 // The editor: one main window on the document named on the command line, or
 // on a new one.
 #include "app/gui/frmLumetaEdit.h"
+#include "controls/ui/InterfaceUsuarioQt.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -12,6 +13,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(lumeta::TituloAplicacao);
     QApplication::setOrganizationName(lumeta::OrganizacaoConfig);
     QApplication::setDesktopFileName(QStringLiteral("lumetaedit"));
+    // Without the translations Qt's dialogs speak English; the editor still works.
+    lumeta::CarregarTraducoesQt(app);
     lumeta::frmLumetaEdit janela;
     if (!janela.Iniciar(QApplication::arguments().mid(1)))
         return 1;

@@ -9,6 +9,7 @@
 #include "support/InterfaceRoteirizada.h"
 #include "support/TestSupport.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -19,7 +20,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
-#include <QTextEdit>
+#include <QPlainTextEdit>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
@@ -474,4 +475,47 @@ TEST(frmLumetaEdit, CanvasPintaORodaRolaEAboutBox)
     EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblEmail"))->text().contains(QStringLiteral("href=\"mailto:") + EmailAutor));
     EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblSite"))->text().contains(QStringLiteral("href=\"") + EnderecoSite));
     EXPECT_TRUE(autor.findChild<QLabel *>(QStringLiteral("lblSite"))->openExternalLinks());
+}
+
+TEST(frmLumetaEdit, PainelDeResultadoTrocaSoOTrechoAlteradoEGuardaALeitura)
+{
+    Janela j;
+    QPlainTextEdit *pane = j.janela.rtbResultado;
+    auto mostrado = [&] { return QString(j.janela.Sessao().TextoResultado).replace(QStringLiteral("\r\n"), QStringLiteral("\n")); };
+    // Named by its caption; no undo history grows with every change.
+    QAccessibleInterface *acessivel = QAccessible::queryAccessibleInterface(pane);
+    ASSERT_NE(acessivel, nullptr);
+    EXPECT_EQ(acessivel->text(QAccessible::Name), QStringLiteral("Arquivo texto"));
+    EXPECT_FALSE(pane->document()->isUndoRedoEnabled());
+
+    SessaoEdicao &s = j.janela.Sessao();
+    for (int b = 0; b < 200; ++b)
+        s.AddBanda(0, false, 0, 0);
+    s.ConcluirEdicao();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    QApplication::processEvents();
+    pane->verticalScrollBar()->setValue(150);
+    // A line added near the top, one removed in the middle, one line's text
+    // changed at the end, a non-Latin-1 text and back to a new document:
+    // each time the pane holds exactly the command text and keeps its place.
+    s.AlternarImprimir();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    EXPECT_EQ(pane->verticalScrollBar()->value(), 150);
+    s.Documento.Bandas.removeAt(100);
+    s.ConcluirEdicao();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    s.Documento.Bandas.last().Itens[0].Texto = QStringLiteral("Total \U0001D11E \u00e7");
+    s.ConcluirEdicao();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    s.Documento.Bandas.last().Itens[0].Texto = QStringLiteral("Total \U0001D120 \u00e7");
+    s.ConcluirEdicao();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    EXPECT_EQ(pane->verticalScrollBar()->value(), 150);
+    s.AlternarImprimir();
+    EXPECT_EQ(pane->toPlainText(), mostrado());
+    EXPECT_EQ(pane->document()->blockCount(), mostrado().count(QLatin1Char('\n')) + 1);
+    j.ui.respostas = {Resposta::Nao};
+    j.acao("mnuArquivoNovo")->trigger();
+    EXPECT_EQ(pane->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts),
+              QStringList({"QJ 92", "F 100000Arial", "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));
 }

@@ -33,8 +33,10 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTextCursor>
 #include <QTextEdit>
 #include <QUrl>
+#include <cstring>
 
 namespace lumeta {
 
@@ -54,6 +56,41 @@ QString escaparMenu(QString texto)
 bool ehCaixaDeTexto(QWidget *w)
 {
     return qobject_cast<QLineEdit *>(w) || qobject_cast<QTextEdit *>(w) || qobject_cast<QPlainTextEdit *>(w);
+}
+
+// The command text with CR LF turned into LF, in one pass over the megabytes
+// a large layout gives.
+QString semCR(const QString &texto)
+{
+    QString r(texto.size(), Qt::Uninitialized);
+    QChar *d = r.data();
+    for (const QChar *s = texto.constBegin(), *f = texto.constEnd(); s < f; ++s)
+        if (*s != u'\r' || s + 1 == f || s[1] != u'\n')
+            *d++ = *s;
+    r.truncate(d - r.constData());
+    return r;
+}
+
+// How many units `a` and `b` share at the beginning (or, with `recuando`, at
+// the end, up to `n`), compared a block at a time.
+qsizetype emComum(const QString &a, const QString &b, qsizetype n, bool recuando)
+{
+    constexpr qsizetype Bloco = 512;
+    const QChar *pa = recuando ? a.constEnd() : a.constBegin();
+    const QChar *pb = recuando ? b.constEnd() : b.constBegin();
+    qsizetype k = 0;
+    if (recuando) {
+        while (k + Bloco <= n && std::memcmp(pa - k - Bloco, pb - k - Bloco, Bloco * sizeof(QChar)) == 0)
+            k += Bloco;
+        while (k < n && pa[-k - 1] == pb[-k - 1])
+            ++k;
+    } else {
+        while (k + Bloco <= n && std::memcmp(pa + k, pb + k, Bloco * sizeof(QChar)) == 0)
+            k += Bloco;
+        while (k < n && pa[k] == pb[k])
+            ++k;
+    }
+    return k;
 }
 
 }  // namespace
@@ -501,11 +538,14 @@ void frmLumetaEdit::criarJanela()
     lblResultado->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     lblResultado->setContentsMargins(4, 0, 0, 4);
     lResultado->addWidget(lblResultado);
-    rtbResultado = new QTextEdit(colunaResultado);
+    // A large layout gives megabytes of text: a plain-text view lays out only
+    // the lines it shows, and the text is updated in place (see
+    // mostrarTextoResultado), with no undo history kept.
+    rtbResultado = new QPlainTextEdit(colunaResultado);
     rtbResultado->setObjectName(QStringLiteral("rtbResultado"));
     rtbResultado->setReadOnly(true);
-    rtbResultado->setAcceptRichText(false);
-    rtbResultado->setLineWrapMode(QTextEdit::NoWrap);
+    rtbResultado->setUndoRedoEnabled(false);
+    rtbResultado->setLineWrapMode(QPlainTextEdit::NoWrap);
     rtbResultado->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QFont mono(QStringLiteral("Courier New"));
     mono.setStyleHint(QFont::TypeWriter);
@@ -513,6 +553,7 @@ void frmLumetaEdit::criarJanela()
     rtbResultado->setFont(mono);
     rtbResultado->setContextMenuPolicy(Qt::PreventContextMenu);
     rtbResultado->viewport()->installEventFilter(this);
+    lblResultado->setBuddy(rtbResultado);
     lResultado->addWidget(rtbResultado, 1);
     colunaResultado->setMinimumWidth(160);
     divisor->addWidget(areaCanvas);
@@ -525,9 +566,9 @@ void frmLumetaEdit::criarJanela()
     mnuPopup = new QMenu(this);
     mnuPopup->setObjectName(QStringLiteral("mnuPopup"));
     QAction *copiar = item(mnuPopup, QStringLiteral("mnuPopupCopiar"), QStringLiteral("&Copiar"));
-    connect(copiar, &QAction::triggered, rtbResultado, &QTextEdit::copy);
+    connect(copiar, &QAction::triggered, rtbResultado, &QPlainTextEdit::copy);
     QAction *tudo = item(mnuPopup, QStringLiteral("mnuPopupSelecionar"), QStringLiteral("&Selecionar Tudo"));
-    connect(tudo, &QAction::triggered, rtbResultado, &QTextEdit::selectAll);
+    connect(tudo, &QAction::triggered, rtbResultado, &QPlainTextEdit::selectAll);
     connect(mnuPopup, &QMenu::aboutToShow, this,
             [this, copiar] { copiar->setEnabled(rtbResultado->textCursor().hasSelection()); });
 
@@ -684,12 +725,30 @@ void frmLumetaEdit::atualizarOpcoes()
 
 void frmLumetaEdit::mostrarTextoResultado(const QString &texto)
 {
+    QString t = semCR(texto);
+    // Most edits change a few lines of a long text: only the stretch between
+    // the common beginning and the common end is replaced, so the document
+    // keeps the layout of every other line. Document positions are string
+    // positions, one per UTF-16 unit and one per line end.
+    const QString &antes = m_textoResultado;
+    qsizetype inicio = emComum(t, antes, std::min(t.size(), antes.size()), false);
+    if (inicio == t.size() && inicio == antes.size())
+        return;
+    qsizetype fim = emComum(t, antes, std::min(t.size(), antes.size()) - inicio, true);
+    // Never cut a surrogate pair.
+    if (inicio > 0 && t[inicio - 1].isHighSurrogate())
+        --inicio;
+    if (fim > 0 && t[t.size() - fim].isLowSurrogate())
+        --fim;
+
     // The pane keeps its place in the text while the user edits the layout.
     const int v = rtbResultado->verticalScrollBar()->value();
     const int h = rtbResultado->horizontalScrollBar()->value();
-    QString t = texto;
-    t.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    rtbResultado->setPlainText(t);
+    QTextCursor c(rtbResultado->document());
+    c.setPosition(int(inicio));
+    c.setPosition(int(antes.size() - fim), QTextCursor::KeepAnchor);
+    c.insertText(t.mid(inicio, t.size() - fim - inicio));
+    m_textoResultado = std::move(t);
     rtbResultado->verticalScrollBar()->setValue(v);
     rtbResultado->horizontalScrollBar()->setValue(h);
 }

@@ -18,7 +18,7 @@ class QActionGroup;
 class QMenu;
 class QScrollBar;
 class QSplitter;
-class QTextEdit;
+class QPlainTextEdit;
 
 namespace lumeta {
 
@@ -69,7 +69,7 @@ public:
     QMenu *mnuConfig = nullptr;
     QMenu *mnuAjuda = nullptr;
     QMenu *mnuPopup = nullptr;
-    QTextEdit *rtbResultado = nullptr;
+    QPlainTextEdit *rtbResultado = nullptr;
     ImagemClicavel *imgResultado = nullptr;
     TabCtl *tabPagina = nullptr;
     XPButtonCtl *btnMagic = nullptr;
@@ -121,6 +121,7 @@ private:
     QList<QAction *> m_cpyTipos;
     QList<QAction *> m_copiarComoTipos;
     bool m_encerrado = false;
+    QString m_textoResultado;   // what the result pane holds, LF line ends
 };
 
 }  // namespace lumeta

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QLineEdit>
+#include <QMessageBox>
 
 namespace lumeta {
 
@@ -43,12 +45,49 @@ void prepararArquivo(QFileDialog &d, const QString &titulo, const QString &filtr
     }
 }
 
+// A refused name keeps the dialog open with the reason, as the system's save
+// dialog does, instead of closing it as if the user had cancelled.
+class DialogoSalvar : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override
+    {
+        const QStringList escolhidos = selectedFiles();
+        if (escolhidos.size() == 1 && !QFileInfo(escolhidos.first()).isDir()) {
+            const QString recusa = CommonDialogCls::RecusaSalvar(escolhidos.first());
+            if (!recusa.isEmpty()) {
+                QMessageBox::warning(this, windowTitle(), recusa);
+                return;
+            }
+        }
+        QFileDialog::accept();
+    }
+};
+
 }  // namespace
+
+QString CommonDialogCls::RecusaSalvar(const QString &caminho)
+{
+    const QFileInfo f(caminho);
+    if (!f.absoluteDir().exists())
+        return QStringLiteral("%1\nCaminho não encontrado.\nVerifique se o caminho correto foi fornecido.")
+            .arg(f.fileName());
+    // A file without any write permission is read-only even for a user
+    // (root) who could still write it.
+    constexpr QFileDevice::Permissions escrita = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    if (f.exists() && !f.isDir() && (!f.isWritable() || !(f.permissions() & escrita)))
+        return QStringLiteral("%1\nEste arquivo é somente leitura.\nTente novamente com outro nome de arquivo.")
+            .arg(f.fileName());
+    return QString();
+}
 
 QString CommonDialogCls::GetSaveName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
                                      const QString &extensaoPadrao, QWidget *dono)
 {
-    QFileDialog d(dono);
+    // Qt's own dialog, so that refusals keep it open wherever the editor runs.
+    DialogoSalvar d(dono);
+    d.setOption(QFileDialog::DontUseNativeDialog, true);
     d.setAcceptMode(QFileDialog::AcceptSave);
     d.setFileMode(QFileDialog::AnyFile);
     d.setOption(QFileDialog::DontConfirmOverwrite, false);
@@ -59,11 +98,7 @@ QString CommonDialogCls::GetSaveName(const QString &titulo, const QString &filtr
     d.setDefaultSuffix(ext);
     if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty())
         return QString();
-    const QString escolhido = d.selectedFiles().first();
-    // The folder of the chosen name must exist; the dialog lets a typed one through.
-    if (!QFileInfo(escolhido).absoluteDir().exists())
-        return QString();
-    return escolhido;
+    return d.selectedFiles().first();
 }
 
 QString CommonDialogCls::GetOpenName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
@@ -90,7 +125,8 @@ int CommonDialogCls::PickColor(int corInicial, QWidget *dono)
 
 bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono)
 {
-    QFont inicial(fonte.Nome.isEmpty() ? QStringLiteral("Arial") : fonte.Nome);
+    const QString nome = fonte.Nome.isEmpty() ? QStringLiteral("Arial") : fonte.Nome;
+    QFont inicial(nome);
     inicial.setPointSizeF(fonte.Tamanho > 0 ? fonte.Tamanho : 10);
     inicial.setWeight(fonte.Negrito ? QFont::Bold : QFont::Normal);
     inicial.setItalic(fonte.Italico);
@@ -98,10 +134,21 @@ bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono)
     inicial.setStrikeOut(fonte.Tachado);
     QFontDialog d(inicial, dono);
     d.setOption(QFontDialog::ScalableFonts, false);
+    // A family that is not installed (Arial on most Linux systems) is matched
+    // to another one: the dialog shows the given name and keeps it unless
+    // the user picks another family.
+    const QString casada = d.currentFont().family();
+    if (casada != nome) {
+        for (QLineEdit *campo : d.findChildren<QLineEdit *>())
+            if (campo->text() == casada) {
+                campo->setText(nome);
+                break;
+            }
+    }
     if (d.exec() != QDialog::Accepted)
         return false;
     const QFont f = d.selectedFont();
-    fonte.Nome = f.family();
+    fonte.Nome = f.family() == casada ? nome : f.family();
     fonte.Tamanho = f.pointSizeF();
     fonte.Negrito = f.weight() >= QFont::Bold;
     fonte.Italico = f.italic();

@@ -31,16 +31,23 @@ public:
     static QStringList FiltrosQt(const QString &filtro);
 
     // Save: the read-only box is not offered, an existing file is confirmed
-    // before it is overwritten, the folder must exist.
+    // before it is overwritten; a name that RecusaSalvar refuses keeps the
+    // dialog open with the reason.
     static QString GetSaveName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
                                const QString &extensaoPadrao, QWidget *dono);
+    // Why `caminho` cannot be chosen in the save dialog (its folder does not
+    // exist, or it is a read-only file), or empty. A writable file in a
+    // read-only folder is accepted.
+    static QString RecusaSalvar(const QString &caminho);
     // Open: the file must exist.
     static QString GetOpenName(const QString &titulo, const QString &filtro, const QString &nomeInicial,
                                QWidget *dono);
     // 0x00BBGGRR, or -1 when cancelled. The full dialog with the 16 custom
     // colour slots is shown, starting from `corInicial` (same encoding).
     static int PickColor(int corInicial, QWidget *dono);
-    // False when cancelled (`fonte` then unchanged). Bold is weight 700.
+    // False when cancelled (`fonte` then unchanged). Bold is weight 700. A
+    // name the system lacks comes back unchanged unless another family is
+    // picked.
     static bool GetFont(FonteDialogo &fonte, QWidget *dono);
 
     static int CorParaBGR(const QColor &c) { return c.red() | (c.green() << 8) | (c.blue() << 16); }

@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QInputDialog>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
+#include <QTranslator>
 
 namespace lumeta {
 
@@ -42,6 +46,38 @@ QString extensaoDoFiltro(const QString &filtro)
 }
 
 }  // namespace
+
+namespace {
+
+// Qt 6 moved the file dialog's type column ("Folder", "File", "%1 File") to
+// a context the catalogue does not know yet; they are looked up where Qt 5
+// kept them.
+class TraducaoQt : public QTranslator {
+public:
+    using QTranslator::QTranslator;
+
+    QString translate(const char *contexto, const char *texto, const char *desambiguacao, int n) const override
+    {
+        const QString r = QTranslator::translate(contexto, texto, desambiguacao, n);
+        if (r.isEmpty() && qstrcmp(contexto, "QAbstractFileIconProvider") == 0)
+            return QTranslator::translate("QFileDialog", texto, desambiguacao, n);
+        return r;
+    }
+};
+
+}  // namespace
+
+QTranslator *CarregarTraducoesQt(QCoreApplication &app)
+{
+    auto *t = new TraducaoQt(&app);
+    if (!t->load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        delete t;
+        return nullptr;
+    }
+    QCoreApplication::installTranslator(t);
+    return t;
+}
 
 void InterfaceUsuarioQt::Mensagem(const QString &texto, const QString &titulo, Icone icone)
 {

@@ -4,9 +4,17 @@
 
 #include "document/InterfaceUsuario.h"
 
+class QCoreApplication;
+class QTranslator;
 class QWidget;
 
 namespace lumeta {
+
+// Qt's own texts (the file, font and colour dialogs, the overwrite question,
+// standard buttons) in Brazilian Portuguese, from the system's Qt
+// translations. The translator belongs to `app` and is installed in it;
+// null when the translations are not installed.
+QTranslator *CarregarTraducoesQt(QCoreApplication &app);
 
 class InterfaceUsuarioQt : public InterfaceUsuario {
 public:

@@ -3,6 +3,7 @@
 #include "controls/ui/ModMouseWheel.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
+#include "support/TestSupport.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,10 +12,13 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTranslator>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -32,6 +36,21 @@ void QuandoModal(std::function<void(QWidget *)> f)
             t->stop();
             t->deleteLater();
             f(w);
+        }
+    });
+    t->start();
+}
+
+// Runs `f` on the next message box, also one opened over another modal dialog.
+void QuandoCaixa(std::function<void(QMessageBox *)> f)
+{
+    auto *t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, f] {
+        if (auto *m = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            t->stop();
+            t->deleteLater();
+            f(m);
         }
     });
     t->start();
@@ -333,4 +352,129 @@ TEST(InterfaceUsuarioQt, CaixasComTituloIconeEBotoesEmPortugues)
     EXPECT_EQ(ui.Entrada(QStringLiteral("Número:"), QStringLiteral("Variável"), QString()), std::optional<QString>(QStringLiteral("07")));
     QuandoModal([](QWidget *w) { qobject_cast<QDialog *>(w)->reject(); });
     EXPECT_EQ(ui.Entrada(QStringLiteral("Número:"), QStringLiteral("Variável"), QString()), std::nullopt);
+}
+
+TEST(CommonDialogCls, SalvarRecusaSomenteLeituraEPastaInexistenteMantendoODialogoAberto)
+{
+    QTemporaryDir dir;
+    const QString somenteLeitura = dir.filePath(QStringLiteral("fixo.lmt"));
+    QFile f(somenteLeitura);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.close();
+    ASSERT_TRUE(f.setPermissions(QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther));
+    const QString semPasta = dir.filePath(QStringLiteral("nao/existe/novo.lmt"));
+    // A writable layout in a read-only folder can still be chosen.
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("pasta")));
+    const QString naPastaFixa = dir.filePath(QStringLiteral("pasta/livre.lmt"));
+    QFile livre(naPastaFixa);
+    ASSERT_TRUE(livre.open(QIODevice::WriteOnly));
+    livre.close();
+    ASSERT_TRUE(QFile::setPermissions(dir.filePath(QStringLiteral("pasta")),
+                                      QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+
+    EXPECT_EQ(CommonDialogCls::RecusaSalvar(somenteLeitura),
+              QStringLiteral("fixo.lmt\nEste arquivo é somente leitura.\nTente novamente com outro nome de arquivo."));
+    EXPECT_EQ(CommonDialogCls::RecusaSalvar(semPasta),
+              QStringLiteral("novo.lmt\nCaminho não encontrado.\nVerifique se o caminho correto foi fornecido."));
+    EXPECT_EQ(CommonDialogCls::RecusaSalvar(naPastaFixa), QString());
+    EXPECT_EQ(CommonDialogCls::RecusaSalvar(dir.filePath(QStringLiteral("novo.lmt"))), QString());
+
+    // The user types each name and presses Save: the two refused ones leave
+    // the dialog open with the reason, the third is returned.
+    QStringList avisos;
+    QuandoModal([&](QWidget *w) {
+        auto *d = qobject_cast<QFileDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        auto *nome = d->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        auto *lista = d->findChild<QListView *>(QStringLiteral("listView"));
+        ASSERT_NE(nome, nullptr);
+        ASSERT_NE(lista, nullptr);
+        // Typing into the focused name box drops the file picked before;
+        // without a focused window the test drops it itself.
+        auto digitar = [&](const QString &texto) {
+            lista->clearSelection();
+            nome->setText(texto);
+        };
+        for (const QString &recusado : {somenteLeitura, semPasta}) {
+            digitar(recusado);
+            QuandoCaixa([&](QMessageBox *m) {
+                avisos << m->windowTitle() + QLatin1Char('|') + m->text();
+                m->accept();
+            });
+            static_cast<QDialog *>(d)->accept();
+            EXPECT_TRUE(d->isVisible());
+        }
+        digitar(naPastaFixa);
+        // It exists: the overwrite question comes first.
+        QuandoCaixa([&](QMessageBox *m) {
+            avisos << m->windowTitle();
+            m->button(QMessageBox::Yes)->click();
+        });
+        static_cast<QDialog *>(d)->accept();
+    });
+    EXPECT_EQ(CommonDialogCls::GetSaveName(QStringLiteral("Salvar layout"), QStringLiteral("Lumeta Layout (*.lmt)|*.lmt"),
+                                           dir.filePath(QStringLiteral("a.lmt")), QStringLiteral("lmt"), nullptr),
+              naPastaFixa);
+    EXPECT_EQ(avisos, QStringList({"Salvar layout|" + CommonDialogCls::RecusaSalvar(somenteLeitura),
+                                   "Salvar layout|" + CommonDialogCls::RecusaSalvar(semPasta), "Salvar layout"}));
+    QFile::setPermissions(dir.filePath(QStringLiteral("pasta")), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+TEST(CommonDialogCls, FonteNaoInstaladaGuardaONomeAteOutraSerEscolhida)
+{
+    const QString ausente = QStringLiteral("Fonte Que Nenhum Sistema Tem");
+    for (const QString &nome : {QStringLiteral("Arial"), ausente}) {
+        FonteDialogo fonte{nome, 10, false, false, false, false};
+        QuandoModal([&](QWidget *w) {
+            QStringList campos;
+            for (QLineEdit *e : w->findChildren<QLineEdit *>())
+                campos << e->text();
+            EXPECT_TRUE(campos.contains(nome)) << campos.join(QLatin1Char(',')).toStdString();
+            static_cast<QDialog *>(w)->accept();
+        });
+        ASSERT_TRUE(CommonDialogCls::GetFont(fonte, nullptr));
+        EXPECT_EQ(fonte.Nome, nome);
+        EXPECT_EQ(fonte.Tamanho, 10);
+    }
+
+    // Another family picked in the list replaces the name.
+    FonteDialogo fonte{ausente, 10, false, false, false, false};
+    QString escolhida;
+    QuandoModal([&](QWidget *w) {
+        auto *d = qobject_cast<QFontDialog *>(w);
+        ASSERT_NE(d, nullptr);
+        const QString casada = d->currentFont().family();
+        QListView *familias = d->findChild<QListView *>();
+        ASSERT_NE(familias, nullptr);
+        for (int r = 0; r < familias->model()->rowCount() && escolhida.isEmpty(); ++r) {
+            const QModelIndex i = familias->model()->index(r, 0);
+            if (i.data().toString() != casada) {
+                familias->setCurrentIndex(i);
+                escolhida = d->currentFont().family();
+            }
+        }
+        d->accept();
+    });
+    ASSERT_TRUE(CommonDialogCls::GetFont(fonte, nullptr));
+    ASSERT_FALSE(escolhida.isEmpty()) << "only one font family on this machine";
+    EXPECT_EQ(fonte.Nome, escolhida);
+}
+
+TEST(InterfaceUsuarioQt, BotoesDoQtEmPortuguesComAsTraducoesCarregadas)
+{
+    QTranslator *traducao = CarregarTraducoesQt(*QCoreApplication::instance());
+    if (!traducao)
+        GTEST_SKIP() << "Qt's pt_BR translations (Debian package qt6-translations-l10n) are not installed";
+    QMessageBox m(QMessageBox::Warning, QStringLiteral("Salvar"), QStringLiteral("x"),
+                  QMessageBox::Save | QMessageBox::Cancel | QMessageBox::Close);
+    EXPECT_EQ(m.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancelar"));
+    EXPECT_EQ(m.button(QMessageBox::Save)->text(), QStringLiteral("Salvar"));
+    EXPECT_EQ(m.button(QMessageBox::Close)->text(), QStringLiteral("Fechar"));
+    EXPECT_NE(QFileDialog::tr("%1 already exists.\nDo you want to replace it?"),
+              QStringLiteral("%1 already exists.\nDo you want to replace it?"));
+    EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder", "All other platforms"),
+              QStringLiteral("Pasta"));
+    delete traducao;
+    QMessageBox ingles(QMessageBox::Warning, QString(), QString(), QMessageBox::Cancel);
+    EXPECT_EQ(ingles.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));
 }

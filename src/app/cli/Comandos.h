@@ -3,6 +3,7 @@
 // with a static ComandoCli, so adding a command touches no other file.
 
 #include <QByteArray>
+#include <QImage>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -36,5 +37,10 @@ std::vector<DefinicaoComando> &TodosComandos();
 // Shared by the commands that read a layout: on failure prints the editor's
 // message and returns false.
 bool CarregarLayout(const QString &caminho, LayoutDocumento &destino, Saidas &io);
+
+// Writes a picture as PNG the way the editor writes its files (complete and
+// synced before it replaces anything). A failure prints `mensagem` and, when
+// the disk refused it, a blank line and the reason.
+bool GravarPNG(const QImage &figura, const QString &caminho, const QString &mensagem, Saidas &io);
 
 }  // namespace lumeta::cli

@@ -299,3 +299,27 @@ TEST(ArquivoDisco, SaidaPadraoCheiaEFalhasDeArquivoFalamPortugues)
         SemIngles(m);
     }
 }
+
+TEST(ArquivoDisco, ArquivoGravavelEmPastaSomenteLeituraEReescritoNoLugar)
+{
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("layout.lmt"));
+    teste::GravarArquivoTeste(caminho, QByteArray(300, 'v'));
+    const QByteArray dados = GravarLMT(SessaoEditor().Documento);
+    // Root writes into any folder: a user without rights to it does the save.
+    const uid_t usuario = ::geteuid() == 0 ? 65534 : ::geteuid();
+    ASSERT_EQ(::chown(qPrintable(caminho), usuario, gid_t(-1)), 0);
+    ASSERT_EQ(::chmod(qPrintable(dir.path()), 0555), 0);
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        if (::geteuid() == 0 && ::setuid(usuario) != 0)
+            ::_exit(100);
+        ::_exit(GravarArquivoAtomico(caminho, dados).numero);
+    }
+    int estado = 0;
+    ::waitpid(filho, &estado, 0);
+    ::chmod(qPrintable(dir.path()), 0755);
+    ASSERT_TRUE(WIFEXITED(estado));
+    EXPECT_EQ(WEXITSTATUS(estado), 0);
+    EXPECT_EQ(teste::LerArquivo(caminho), dados);
+}

@@ -12,7 +12,6 @@
 #include "support/TestSupport.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -52,21 +51,16 @@ struct Execucao {
     QByteArray erros;
 };
 
-Execucao Executar(const QString &programa, const QStringList &args, const QString &saida = QString())
+Execucao Cli(const QStringList &args, const QString &saida = QString(),
+             const QString &programa = QStringLiteral(LUMETA_CLI))
 {
     QProcess p;
     if (!saida.isEmpty())
         p.setStandardOutputFile(saida);
     p.start(programa, args);
     const bool terminou = p.waitForFinished(20000);
-    if (!terminou)
-        p.kill(), p.waitForFinished();
+    p.kill();
     return {p.exitCode(), terminou, p.readAllStandardError()};
-}
-
-Execucao Cli(const QStringList &args, const QString &saida = QString())
-{
-    return Executar(QStringLiteral(LUMETA_CLI), args, saida);
 }
 
 // A tmpfs of a few pages in a temporary folder, unmounted at the end.
@@ -243,8 +237,9 @@ TEST(ArquivoDisco, LeitorOlhaOCabecalhoPrimeiroERecusaOQueNaoEArquivo)
 #else
     const QString limite = QStringLiteral("ulimit -v 400000; ");
 #endif
-    const Execucao r = Executar(QStringLiteral("/bin/sh"), {QStringLiteral("-c"),
-                                limite + QStringLiteral("exec \"$0\" texto /dev/zero"), QStringLiteral(LUMETA_CLI)});
+    const Execucao r = Cli({QStringLiteral("-c"), limite + QStringLiteral("exec \"$0\" texto /dev/zero"),
+                            QStringLiteral(LUMETA_CLI)},
+                           QString(), QStringLiteral("/bin/sh"));
     ASSERT_TRUE(r.terminou);
     EXPECT_EQ(r.codigo, 1);
     EXPECT_EQ(QString::fromLocal8Bit(r.erros), MensagemErroAbrir(QStringLiteral("/dev/zero"), acesso) + u'\n');

@@ -1,5 +1,6 @@
 #include "controls/ModuloAssociar.h"
 
+#include "document/ArquivoDisco.h"
 #include "document/InterfaceUsuario.h"
 
 #include <QBuffer>
@@ -9,10 +10,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 namespace lumeta {
@@ -91,45 +90,24 @@ bool GravarRegistro(const QString &chave, int tipo, const QString &nome, const Q
                     bool mostrarErros, bool gravarJa, InterfaceUsuario *ui)
 {
     Q_UNUSED(tipo);  // every value is stored as the bytes it is given
+    Q_UNUSED(gravarJa);  // every value reaches the disk before it replaces the old one
     const QString pasta = caminhoChave(chave);
     std::error_code ec;
-    std::filesystem::create_directories(std::filesystem::path(pasta.toStdString()), ec);
-    if (ec || !QFileInfo(pasta).isDir()) {
-        const int codigo = ec ? ec.value() : ENOTDIR;
-        const QString descricao = QString::fromLocal8Bit(ec ? ec.message() : std::string(std::strerror(ENOTDIR)));
+    std::filesystem::create_directories(std::filesystem::path(QFile::encodeName(pasta).toStdString()), ec);
+    auto falhou = [&](const QString &inicio, const ErroArquivo &e) {
         avisar(ui, mostrarErros,
-               QStringLiteral("Não foi possível criar ou abrir a entrada do registro: ") + pasta
-                   + QStringLiteral("\n\nOcorreu o erro: ") + QString::number(codigo) + QStringLiteral(" - ")
-                   + descricao);
-        return false;
-    }
-    const QString arquivo = pasta + QLatin1Char('/') + nome;
-    const QString nomeMostrado = nome.isEmpty() ? QStringLiteral("Padrão") : nome;
-    auto falhou = [&](int codigo, const QString &descricao) {
-        avisar(ui, mostrarErros,
-               QStringLiteral("Não foi possível salvar o valor do registro: ") + nomeMostrado
-                   + QStringLiteral("\n\nOcorreu o erro: ") + QString::number(codigo) + QStringLiteral(" - ")
-                   + descricao);
+               inicio + QStringLiteral("\n\nOcorreu o erro: ") + QString::number(e.numero) + QStringLiteral(" - ")
+                   + e.descricao);
         return false;
     };
-    if (gravarJa) {
-        QSaveFile f(arquivo);
-        errno = 0;
-        if (!f.open(QIODevice::WriteOnly))
-            return falhou(errno ? errno : int(f.error()), f.errorString());
-        if (f.write(valor) != valor.size() || !f.commit())
-            return falhou(errno ? errno : int(f.error()), f.errorString());
-        return true;
-    }
-    QFile f(arquivo);
-    errno = 0;
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return falhou(errno ? errno : int(f.error()), f.errorString());
-    if (f.write(valor) != valor.size())
-        return falhou(errno ? errno : int(f.error()), f.errorString());
-    f.close();
-    if (f.error() != QFileDevice::NoError)
-        return falhou(int(f.error()), f.errorString());
+    if (ec || !QFileInfo(pasta).isDir())
+        return falhou(QStringLiteral("Não foi possível criar ou abrir a entrada do registro: ") + pasta,
+                      ErroDoSistema(ec ? ec.value() : ENOTDIR, pasta));
+    const ErroArquivo e = GravarArquivoAtomico(pasta + QLatin1Char('/') + nome, valor);
+    if (e)
+        return falhou(QStringLiteral("Não foi possível salvar o valor do registro: ")
+                          + (nome.isEmpty() ? QStringLiteral("Padrão") : nome),
+                      e);
     return true;
 }
 
@@ -182,8 +160,9 @@ bool Associar(const QString &extensao, const QString &descricao, const QString &
     for (const Entrada &e : entradas) {
         // Entries already in place are left alone, so an ordinary start does
         // not touch the disk or the desktop's caches.
-        QFile atual(caminhoChave(e.chave) + QLatin1Char('/') + e.nome);
-        if (atual.open(QIODevice::ReadOnly) && atual.readAll() == e.valor)
+        QByteArray atual;
+        if (!LerArquivoRegular(caminhoChave(e.chave) + QLatin1Char('/') + e.nome, e.valor.size() + 1, atual)
+            && atual == e.valor)
             continue;
         if (!GravarRegistro(e.chave, e.tipo, e.nome, e.valor, true, false, ui))
             return false;

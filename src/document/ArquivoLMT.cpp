@@ -1,10 +1,8 @@
 #include "document/ArquivoLMT.h"
 
+#include "document/ArquivoDisco.h"
 #include "document/Texto1252.h"
 
-#include <QFile>
-#include <QRegularExpression>
-#include <QSaveFile>
 #include <cstring>
 
 namespace lumeta {
@@ -245,33 +243,37 @@ void escreverBanda(Escritor &e, const Banda &b)
         escreverItem(e, it);
 }
 
+// The revision letter of a valid header, or 0. Only blanks may surround the
+// header text (not tabs or line ends).
+char revisaoDoCabecalho(const QByteArray &dados)
+{
+    if (dados.size() < kTamanhoCabecalho)
+        return 0;
+    const char *c = dados.constData();
+    qsizetype i = 0, j = kTamanhoCabecalho;
+    while (i < j && c[i] == ' ')
+        ++i;
+    while (j > i && c[j - 1] == ' ')
+        --j;
+    const QByteArrayView texto(c + i, j - i);
+    const qsizetype n = kCabecalho.size();
+    if (texto.size() != n + 3 || !texto.startsWith(kCabecalho) || texto[n] != '(' || texto[n + 2] != ')'
+        || texto[n + 1] < 'a' || texto[n + 1] > 't')
+        return 0;
+    return texto[n + 1];
+}
+
 }  // namespace
 
 LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
 {
     LeituraLMT r;
-    if (dados.size() < kTamanhoCabecalho) {
-        r.resultado = ResultadoLeitura::ErroLeitura;
-        r.erro = QStringLiteral("O arquivo terminou antes do fim dos dados (arquivo truncado).");
-        return r;
-    }
-    // Only blanks may surround the header text (not tabs or line ends).
-    const QByteArray semEspacos = [&] {
-        QByteArray c = dados.left(kTamanhoCabecalho);
-        qsizetype i = 0, j = c.size();
-        while (i < j && c[i] == ' ')
-            ++i;
-        while (j > i && c[j - 1] == ' ')
-            --j;
-        return c.mid(i, j - i);
-    }();
-    if (semEspacos.size() != kCabecalho.size() + 3 || !semEspacos.startsWith(kCabecalho)
-        || semEspacos[kCabecalho.size()] != '(' || semEspacos.back() != ')'
-        || semEspacos[kCabecalho.size() + 1] < 'a' || semEspacos[kCabecalho.size() + 1] > 't') {
+    // A file too short to hold a header holds no layout of any revision.
+    const char rev = revisaoDoCabecalho(dados);
+    if (!rev) {
         r.resultado = ResultadoLeitura::FormatoInvalido;
         return r;
     }
-    const char rev = semEspacos[kCabecalho.size() + 1];
     r.revisao = rev;
 
     Leitor l(dados);
@@ -396,27 +398,36 @@ QString MensagemErroGravar(const QString &caminho, int numero, const QString &de
 ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc)
 {
     ResultadoArquivo r;
-    QFile f(caminho);
-    if (!f.open(QIODevice::ReadOnly)) {
+    auto falhou = [&](const ErroArquivo &e) {
         r.ok = false;
         r.leitura = ResultadoLeitura::ErroLeitura;
-        r.mensagem = MensagemErroAbrir(caminho, f.errorString());
+        r.mensagem = MensagemErroAbrir(caminho, e.descricao);
         return r;
-    }
-    const QByteArray dados = f.readAll();
-    if (f.error() != QFileDevice::NoError) {
+    };
+    auto formatoInvalido = [&] {
         r.ok = false;
-        r.leitura = ResultadoLeitura::ErroLeitura;
-        r.mensagem = MensagemErroAbrir(caminho, f.errorString());
-        return r;
-    }
-    const LeituraLMT l = LerLMT(dados, doc);
-    r.leitura = l.resultado;
-    if (l.resultado == ResultadoLeitura::FormatoInvalido) {
-        r.ok = false;
+        r.leitura = ResultadoLeitura::FormatoInvalido;
         r.mensagem = MensagemFormatoInvalido(caminho);
         r.titulo = TituloFormatoInvalido;
-    } else if (l.resultado == ResultadoLeitura::ErroLeitura) {
+        return r;
+    };
+    ArquivoLeitura f;
+    QByteArray dados;
+    if (const ErroArquivo e = f.Abrir(caminho))
+        return falhou(e);
+    // The header decides before anything else is read, so a huge file of
+    // another kind costs 32 bytes.
+    if (const ErroArquivo e = f.Ler(kTamanhoCabecalho, dados))
+        return falhou(e);
+    if (!revisaoDoCabecalho(dados))
+        return formatoInvalido();
+    if (const ErroArquivo e = f.Ler(f.Restante(), dados))
+        return falhou(e);
+    const LeituraLMT l = LerLMT(dados, doc);
+    r.leitura = l.resultado;
+    if (l.resultado == ResultadoLeitura::FormatoInvalido)
+        return formatoInvalido();
+    if (l.resultado == ResultadoLeitura::ErroLeitura) {
         r.ok = false;
         r.mensagem = MensagemErroAbrir(caminho, l.erro);
     }
@@ -425,37 +436,14 @@ ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc)
 
 ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados)
 {
-    QSaveFile f(caminho);
-    bool ok = f.open(QIODevice::WriteOnly);
-    if (ok)
-        ok = f.write(dados) == dados.size();
-    if (ok)
-        ok = f.commit();
     ResultadoArquivo r;
-    if (ok)
+    const ErroArquivo e = GravarArquivoAtomico(caminho, dados);
+    if (!e)
         return r;
-    int numero = 75;
-    QString descricao = QStringLiteral("Erro de acesso ao caminho/arquivo");
-    switch (f.error()) {
-    case QFileDevice::PermissionsError:
-        numero = 70;
-        descricao = QStringLiteral("Permissão negada");
-        break;
-    case QFileDevice::WriteError:
-    case QFileDevice::ResourceError:
-        numero = 61;
-        descricao = QStringLiteral("Disco cheio");
-        break;
-    default:
-        break;
-    }
-    if (!f.errorString().isEmpty())
-        descricao += QStringLiteral(" (") + f.errorString() + QLatin1Char(')');
-    f.cancelWriting();
     r.ok = false;
-    r.numeroErro = numero;
-    r.descricaoErro = descricao;
-    r.mensagem = MensagemErroGravar(caminho, numero, descricao);
+    r.numeroErro = e.numero;
+    r.descricaoErro = e.descricao;
+    r.mensagem = MensagemErroGravar(caminho, e.numero, e.descricao);
     return r;
 }
 

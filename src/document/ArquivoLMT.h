@@ -14,7 +14,7 @@ inline const QString FiltroLMT = QStringLiteral("Lumeta Layout (*.lmt)|*.lmt");
 
 enum class ResultadoLeitura {
     Ok,
-    FormatoInvalido,   // the header names no revision this editor knows
+    FormatoInvalido,   // no header naming a revision this editor knows (also a file under 32 bytes)
     ErroLeitura,       // the file is shorter than its fields say, or unreadable
 };
 
@@ -50,11 +50,12 @@ struct ResultadoArquivo {
     QString descricaoErro;  // that the message carries, for other messages
 };
 
-// Reads a file from disk into doc; doc is unchanged unless ok.
+// Reads a file from disk into doc; doc is unchanged unless ok. Only a regular
+// file is read, its header first.
 ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc);
 
-// Writes the whole file to a temporary file beside the target and renames it
-// over the target, so a failed save leaves the previous layout in place.
+// Writes any file of the editor (see GravarArquivoAtomico) and words a failure
+// with the editor's save message.
 ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados);
 inline ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc)
 {

@@ -1,5 +1,6 @@
 #include "editing/ComandosTransferencia.h"
 
+#include "document/ArquivoDisco.h"
 #include "document/ArquivoLMT.h"
 #include "editing/ComandosBanda.h"
 #include "editing/ComandosItem.h"
@@ -7,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace lumeta {
 
@@ -69,29 +71,19 @@ std::optional<QList<Banda>> LerAreaTransferencia(SessaoEdicao &s)
         avisar(s, MensagemTransferenciaVazia, TituloColar, Icone::Exclamacao);
         return std::nullopt;
     }
-    QFile f(s.ArquivoTransferencia);
     // Only a regular file is read, and never more than it holds: a device or
     // a pipe in its place could block or never end.
-    if (!info.isFile() || !f.open(QIODevice::ReadOnly)) {
-        avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
-        return std::nullopt;
-    }
-    const QByteArray marcador = f.read(TamanhoMarcador);
-    if (marcador != MarcadorTransferencia()) {
-        avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
-        return std::nullopt;
-    }
-    const QByteArray dados = marcador + f.read(info.size() - TamanhoMarcador);
+    ArquivoLeitura f;
+    QByteArray dados;
     QList<Banda> bandas;
-    if (!LerBandas(dados, TamanhoMarcador, bandas) || bandas.isEmpty()) {
+    const bool lido = !f.Abrir(s.ArquivoTransferencia) && !f.Ler(TamanhoMarcador, dados)
+        && dados == MarcadorTransferencia() && !f.Ler(f.Restante(), dados) && LerBandas(dados, TamanhoMarcador, bandas);
+    // Every band keeps at least one item, so a band without any is damage too.
+    if (!lido || bandas.isEmpty()
+        || std::any_of(bandas.cbegin(), bandas.cend(), [](const Banda &b) { return b.Itens.isEmpty(); })) {
         avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
         return std::nullopt;
     }
-    for (const Banda &b : bandas)
-        if (b.Itens.isEmpty()) {
-            avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
-            return std::nullopt;
-        }
     return bandas;
 }
 

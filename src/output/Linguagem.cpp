@@ -1,11 +1,11 @@
 #include "output/Linguagem.h"
 
+#include "document/ArquivoDisco.h"
 #include "document/ArquivoLMT.h"
 #include "document/Texto1252.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -20,8 +20,6 @@ constexpr qint64 kMaiorArquivo = 4 + NumModelosLinguagem * (2 + 65535);
 
 // Error numbers and texts of the editor's file errors.
 constexpr int kErroFimArquivo = 62;
-constexpr int kErroPermissao = 70;
-constexpr int kErroAcesso = 75;
 constexpr int kErroEstouro = 6;
 
 QString juntar(std::initializer_list<const char *> linhas)
@@ -54,6 +52,16 @@ LeituraLin erroGravacao(int numero, const QString &descricao)
     r.titulo = TituloSalvarLinguagem;
     r.icone = Icone::Critico;
     return r;
+}
+
+// A file too short to hold a version holds no version 1 either.
+bool versaoValida(const QByteArray &dados)
+{
+    if (dados.size() < 4)
+        return false;
+    const auto *p = reinterpret_cast<const unsigned char *>(dados.constData());
+    return int32_t(uint32_t(p[0]) | (uint32_t(p[1]) << 8) | (uint32_t(p[2]) << 16) | (uint32_t(p[3]) << 24))
+        == VersaoLinguagem;
 }
 
 QString nomeDoArquivo(const QString &caminho)
@@ -183,9 +191,7 @@ LeituraLin DecodificarLin(const QByteArray &dados, LinguagemDef &def)
     LeituraLin r;
     const auto *p = reinterpret_cast<const unsigned char *>(dados.constData());
     const qsizetype tamanho = dados.size();
-    // A file too short to hold a version holds no version 1 either.
-    if (tamanho < 4 || int32_t(uint32_t(p[0]) | (uint32_t(p[1]) << 8) | (uint32_t(p[2]) << 16)
-                               | (uint32_t(p[3]) << 24)) != VersaoLinguagem) {
+    if (!versaoValida(dados)) {
         r.resultado = ResultadoLin::Invalido;
         return r;
     }
@@ -220,19 +226,17 @@ LeituraLin LerArquivoLinguagem(const QString &caminho, LinguagemDef &def)
         r.icone = Icone::Exclamacao;
         return r;
     }
-    QFile f(caminho);
-    if (!f.open(QIODevice::ReadOnly)) {
-        const bool permissao = f.error() == QFileDevice::PermissionsError;
-        return erroLeitura(permissao ? kErroPermissao : kErroAcesso,
-                           (permissao ? QStringLiteral("Permissão negada")
-                                      : QStringLiteral("Erro de acesso ao caminho/arquivo"))
-                               + QStringLiteral(" (") + f.errorString() + QLatin1Char(')'));
-    }
-    // Nothing past the eighth string is read, so a huge file costs no more.
-    const QByteArray dados = f.read(kMaiorArquivo);
-    if (f.error() != QFileDevice::NoError)
-        return erroLeitura(kErroAcesso, QStringLiteral("Erro de acesso ao caminho/arquivo (") + f.errorString()
-                                            + QLatin1Char(')'));
+    // The version decides before the templates are read; nothing past the
+    // eighth string is read, so a huge file costs no more.
+    ArquivoLeitura f;
+    QByteArray dados;
+    ErroArquivo e = f.Abrir(caminho);
+    if (!e)
+        e = f.Ler(4, dados);
+    if (!e && versaoValida(dados))
+        e = f.Ler(kMaiorArquivo - 4, dados);
+    if (e)
+        return erroLeitura(e.numero, e.descricao);
     r = DecodificarLin(dados, def);
     if (r.resultado == ResultadoLin::Invalido) {
         r.mensagem = MensagemLinguagemInvalida(caminho);

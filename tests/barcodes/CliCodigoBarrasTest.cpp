@@ -101,5 +101,6 @@ TEST(CliCodigoBarras, RecusasComMensagemECodigo)
     const QString semPasta = dir.filePath(QStringLiteral("nao/existe/x.png"));
     e = Executar({QStringLiteral("36"), QStringLiteral("A"), semPasta});
     EXPECT_EQ(e.codigo, 1);
-    EXPECT_EQ(e.erros, QStringLiteral("Não foi possível gravar o arquivo ") + semPasta + QLatin1Char('\n'));
+    EXPECT_EQ(e.erros, QStringLiteral("Não foi possível gravar o arquivo ") + semPasta
+                           + QStringLiteral("\n\n76 - Caminho não encontrado\n"));
 }

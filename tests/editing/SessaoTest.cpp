@@ -221,6 +221,12 @@ TEST_F(SessaoTest, AbrirRecusaFormatoNovoEEncerraEmArquivoIlegivel)
     EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Impossível Abrir"));
     EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Formato inválido!")));
     EXPECT_EQ(s.Documento, SessaoEdicao().Documento);
+    // Shorter than a header: the same wrong format, never the end of the editor.
+    teste::GravarArquivoTeste(novo, "LumetaEdit 1.0(t)");
+    s.AbrirLMT(bom);
+    EXPECT_EQ(s.AbrirLMT(novo), SessaoEdicao::ResultadoAbrir::FormatoInvalido);
+    EXPECT_EQ(ui.mensagens.back().texto, MensagemFormatoInvalido(novo));
+    EXPECT_EQ(s.Documento, SessaoEdicao().Documento);
 
     s.NomeArquivo = bom;
     const QString curto = dir.filePath(QStringLiteral("curto.lmt"));
@@ -228,9 +234,9 @@ TEST_F(SessaoTest, AbrirRecusaFormatoNovoEEncerraEmArquivoIlegivel)
     ui.arquivos = {curto};
     EXPECT_EQ(s.AbrirLMT(QString()), SessaoEdicao::ResultadoAbrir::Encerrar);
     EXPECT_EQ(s.NomeArquivo, bom);
-    ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_EQ(ui.mensagens[1].icone, Icone::Exclamacao);
-    EXPECT_TRUE(ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '") + curto));
+    ASSERT_EQ(ui.mensagens.size(), 3);
+    EXPECT_EQ(ui.mensagens[2].icone, Icone::Exclamacao);
+    EXPECT_TRUE(ui.mensagens[2].texto.startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '") + curto));
 }
 
 TEST_F(SessaoTest, ConfiguracoesTemPadroesTextosBooleanosERecentesSemDuplicatas)

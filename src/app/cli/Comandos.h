@@ -3,6 +3,7 @@
 // with a static ComandoCli, so adding a command touches no other file.
 
 #include <QByteArray>
+#include <QImage>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -49,5 +50,10 @@ inline bool TemOpcao(const QStringList &args)
 // writes is what the editor shows. On failure prints the editor's message and
 // returns false.
 bool CarregarLayout(const QString &caminho, LayoutDocumento &doc, RecursosCanvas &recursos, Saidas &io);
+
+// Writes a picture as PNG the way the editor writes its files (complete and
+// synced before it replaces anything). A failure prints `mensagem` and, when
+// the disk refused it, a blank line and the reason.
+bool GravarPNG(const QImage &figura, const QString &caminho, const QString &mensagem, Saidas &io);
 
 }  // namespace lumeta::cli

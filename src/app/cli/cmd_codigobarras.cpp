@@ -67,11 +67,10 @@ const ComandoCli codigoBarras(60, "codigo-barras", kUso,
             }
         }
         const QImage figura = DesenharCodigoBarras(tipo, valor, 40, true, angulo);
-        if (!figura.save(posicionais[2], "PNG")) {
-            io.err(QStringLiteral("Não foi possível gravar o arquivo ") + posicionais[2]);
-            return 1;
-        }
-        return 0;
+        return GravarPNG(figura, posicionais[2], QStringLiteral("Não foi possível gravar o arquivo ") + posicionais[2],
+                         io)
+            ? 0
+            : 1;
     });
 
 }  // namespace

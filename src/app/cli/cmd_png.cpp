@@ -29,11 +29,10 @@ const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
         const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);
         if (r.memoriaInsuficiente)
             io.err(MensagemMemoriaInsuficiente);
-        if (canvas.Imagem.isNull() || !canvas.Imagem.save(args[1], "PNG")) {
-            io.err(QStringLiteral("Não foi possível gravar a figura '") + args[1] + QStringLiteral("'!"));
-            return 1;
-        }
-        return 0;
+        return GravarPNG(canvas.Imagem, args[1],
+                         QStringLiteral("Não foi possível gravar a figura '") + args[1] + QStringLiteral("'!"), io)
+            ? 0
+            : 1;
     });
 
 }  // namespace

@@ -3,12 +3,16 @@
 
 #include "app/cli/Comandos.h"
 #include "canvas/Pintor.h"
+#include "document/ArquivoDisco.h"
 #include "document/ArquivoLMT.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 namespace lumeta::cli {
 
@@ -33,6 +37,21 @@ bool CarregarLayout(const QString &caminho, LayoutDocumento &doc, RecursosCanvas
     }
     PrepararLayoutAberto(doc, recursos.Medidor);
     return true;
+}
+
+bool GravarPNG(const QImage &figura, const QString &caminho, const QString &mensagem, Saidas &io)
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    if (figura.isNull() || !buffer.open(QIODevice::WriteOnly) || !figura.save(&buffer, "PNG")) {
+        io.err(mensagem);
+        return false;
+    }
+    const ResultadoArquivo r = GravarArquivo(caminho, png);
+    if (!r.ok)
+        io.err(mensagem + QStringLiteral("\n\n") + QString::number(r.numeroErro) + QStringLiteral(" - ")
+               + r.descricaoErro);
+    return r.ok;
 }
 
 namespace {
@@ -77,25 +96,45 @@ int main(int argc, char **argv)
     QGuiApplication app(argc, argv);
     QStringList args = app.arguments().mid(1);
 
+    // Standard output is written unbuffered and checked, so a full disk or a
+    // closed reader behind it fails the command instead of losing the text.
+    static int erroSaida = 0;
     Saidas io;
-    io.out = [](const QByteArray &b) { std::fwrite(b.constData(), 1, size_t(b.size()), stdout); };
+    io.out = [](const QByteArray &b) {
+        const char *p = b.constData();
+        qsizetype falta = b.size();
+        while (falta > 0 && !erroSaida) {
+            const ssize_t k = ::write(STDOUT_FILENO, p, size_t(falta));
+            if (k < 0 && errno == EINTR)
+                continue;
+            if (k <= 0)
+                erroSaida = k < 0 ? errno : ENOSPC;
+            else
+                p += k, falta -= k;
+        }
+    };
     io.err = [](const QString &m) {
         const QByteArray b = m.toLocal8Bit() + '\n';
         std::fwrite(b.constData(), 1, size_t(b.size()), stderr);
     };
 
+    auto terminar = [&](int rc) {
+        if (!erroSaida)
+            return rc;
+        const lumeta::ErroArquivo e = lumeta::ErroDoSistema(erroSaida);
+        io.err(QStringLiteral("Ocorreu um erro ao gravar a saída padrão!\n\n") + QString::number(e.numero)
+               + QStringLiteral(" - ") + e.descricao);
+        return 1;
+    };
     if (args.isEmpty() || args[0] == QLatin1String("ajuda") || args[0] == QLatin1String("--help")
         || args[0] == QLatin1String("-h") || args[0] == QLatin1String("help")) {
         io.out(Ajuda().toLocal8Bit());
-        return args.isEmpty() ? 2 : 0;
+        return terminar(args.isEmpty() ? 2 : 0);
     }
     const QString nome = args.takeFirst();
     for (const auto &c : TodosComandos())
-        if (c.nome == nome) {
-            const int rc = c.funcao(args, io);
-            std::fflush(stdout);
-            return rc;
-        }
+        if (c.nome == nome)
+            return terminar(c.funcao(args, io));
     io.err(QStringLiteral("Comando desconhecido: ") + nome + QStringLiteral(" (veja 'lumetaedit-cli ajuda')"));
     return 2;
 }

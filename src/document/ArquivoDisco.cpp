@@ -1,0 +1,296 @@
+#include "document/ArquivoDisco.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lumeta {
+
+namespace {
+
+ErroArquivo erro(int numero, const char *descricao)
+{
+    return {numero, QString::fromUtf8(descricao)};
+}
+
+// What cannot be opened as a file at all: a folder, a block device, a socket.
+ErroArquivo acessoAoCaminho()
+{
+    return erro(75, "Erro de acesso ao caminho/arquivo");
+}
+
+QByteArray nomeLocal(const QString &caminho)
+{
+    return QFile::encodeName(caminho);
+}
+
+// Writes everything or returns the errno that stopped it.
+int escreverTudo(int fd, const QByteArray &dados, off_t inicio = -1)
+{
+    const char *p = dados.constData();
+    qint64 falta = dados.size();
+    off_t pos = inicio;
+    while (falta > 0) {
+        const size_t bloco = size_t(std::min<qint64>(falta, qint64(1) << 30));
+        const ssize_t k = pos >= 0 ? ::pwrite(fd, p, bloco, pos) : ::write(fd, p, bloco);
+        if (k < 0) {
+            if (errno == EINTR)
+                continue;
+            return errno;
+        }
+        if (k == 0)
+            return ENOSPC;
+        p += k;
+        falta -= k;
+        if (pos >= 0)
+            pos += k;
+    }
+    return 0;
+}
+
+int fechar(int fd)
+{
+    return ::close(fd) == 0 ? 0 : errno;
+}
+
+// A character device (/dev/null, a terminal) or a FIFO someone reads takes the
+// bytes as a stream; replacing it with a regular file would destroy it.
+ErroArquivo gravarNoDispositivo(const QString &alvo, const QByteArray &dados, bool fifo)
+{
+    // A FIFO nobody reads would block the editor forever: ENXIO instead.
+    const int fd = ::open(nomeLocal(alvo).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY | (fifo ? O_NONBLOCK : 0));
+    if (fd < 0)
+        return ErroDoSistema(errno, alvo);
+    if (fifo)
+        ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+    int e = escreverTudo(fd, dados);
+    const int f = fechar(fd);
+    if (!e)
+        e = f;
+    return e ? ErroDoSistema(e, alvo) : ErroArquivo{};
+}
+
+// A writable file in a folder the user may not write: no new file can be made
+// beside it, so it is rewritten where it is. The space is claimed first, so a
+// full disk fails before the old contents are touched.
+ErroArquivo gravarNoLugar(const QString &alvo, const QByteArray &dados)
+{
+    const int fd = ::open(nomeLocal(alvo).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0)
+        return ErroDoSistema(errno, alvo);
+    struct stat st;
+    int e = ::fstat(fd, &st) == 0 ? 0 : errno;
+    if (!e && !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        return acessoAoCaminho();
+    }
+    if (!e && dados.size() > st.st_size) {
+        const int r = ::posix_fallocate(fd, 0, off_t(dados.size()));
+        if (r != 0 && r != EOPNOTSUPP && r != EINVAL)
+            e = r;
+    }
+    if (!e)
+        e = escreverTudo(fd, dados, 0);
+    if (!e && ::ftruncate(fd, off_t(dados.size())) != 0)
+        e = errno;
+    if (!e && ::fsync(fd) != 0)
+        e = errno;
+    const int f = fechar(fd);
+    if (!e)
+        e = f;
+    return e ? ErroDoSistema(e, alvo) : ErroArquivo{};
+}
+
+void sincronizarPasta(const QString &pasta)
+{
+    const int fd = ::open(nomeLocal(pasta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+}
+
+}  // namespace
+
+ErroArquivo ErroDoSistema(int codigo, const QString &caminho)
+{
+    switch (codigo) {
+    case 0:
+        return {};
+    case ENOENT:
+        if (!caminho.isEmpty() && QFileInfo(QFileInfo(caminho).absolutePath()).isDir())
+            return erro(53, "Arquivo não encontrado");
+        return erro(76, "Caminho não encontrado");
+    case ENOTDIR:
+        return erro(76, "Caminho não encontrado");
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ETXTBSY:
+        return erro(70, "Permissão negada");
+    case EISDIR:
+    case ELOOP:
+    case EBUSY:
+        return acessoAoCaminho();
+    case EEXIST:
+        return erro(58, "O arquivo já existe");
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return erro(61, "Disco cheio");
+    case EMFILE:
+    case ENFILE:
+        return erro(67, "Muitos arquivos");
+    case ENAMETOOLONG:
+    case EBADF:
+    case EINVAL:
+        return erro(52, "Nome ou número de arquivo incorreto");
+    case ENXIO:
+    case ENODEV:
+        return erro(68, "Dispositivo não disponível");
+    case EXDEV:
+        return erro(74, "Não é possível renomear com unidade diferente");
+    case ENOMEM:
+        return erro(7, "Memória insuficiente");
+    default:
+        return erro(57, "Erro de E/S do dispositivo");
+    }
+}
+
+ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados)
+{
+    if (caminho.isEmpty())
+        return ErroDoSistema(EINVAL);
+    // A link keeps pointing where it did; its target gets the new contents.
+    QString alvo = caminho;
+    const QFileInfo info(caminho);
+    if (info.isSymLink())
+        alvo = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+
+    struct stat st;
+    const bool existe = ::stat(nomeLocal(alvo).constData(), &st) == 0;
+    if (!existe && errno != ENOENT)
+        return ErroDoSistema(errno, alvo);
+    if (existe) {
+        if (S_ISCHR(st.st_mode) || S_ISFIFO(st.st_mode))
+            return gravarNoDispositivo(alvo, dados, S_ISFIFO(st.st_mode));
+        if (!S_ISREG(st.st_mode))
+            return acessoAoCaminho();
+        // A read-only file stays read-only, even where the folder would let a
+        // rename replace it.
+        if (::access(nomeLocal(alvo).constData(), W_OK) != 0)
+            return ErroDoSistema(errno, alvo);
+    }
+
+    const QFileInfo fi(alvo);
+    const QString pasta = fi.absolutePath();
+    QByteArray temporario;
+    int fd = -1;
+    for (int tentativa = 0; tentativa < 64 && fd < 0; ++tentativa) {
+        temporario = nomeLocal(pasta + QStringLiteral("/.") + fi.fileName() + QLatin1Char('.')
+                               + QString::number(QRandomGenerator::global()->generate(), 36));
+        // The system applies the umask, as it would to a file created in place.
+        fd = ::open(temporario.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY,
+                    existe ? (st.st_mode & 0777) : 0666);
+        if (fd < 0 && errno != EEXIST)
+            break;
+    }
+    if (fd < 0) {
+        const int e = errno;
+        if (existe && (e == EACCES || e == EPERM))
+            return gravarNoLugar(alvo, dados);
+        return ErroDoSistema(e, alvo);
+    }
+    int e = escreverTudo(fd, dados);
+    if (!e && existe) {
+        // The replacement keeps the old file's mode and, when we may, its owner.
+        ::fchmod(fd, st.st_mode & 07777);
+        if (::geteuid() == 0)
+            (void)::fchown(fd, st.st_uid, st.st_gid);
+    }
+    if (!e && ::fsync(fd) != 0)
+        e = errno;
+    const int f = fechar(fd);
+    if (!e)
+        e = f;
+    if (!e && ::rename(temporario.constData(), nomeLocal(alvo).constData()) != 0)
+        e = errno;
+    if (e) {
+        ::unlink(temporario.constData());
+        return ErroDoSistema(e, alvo);
+    }
+    sincronizarPasta(pasta);
+    return {};
+}
+
+ArquivoLeitura::~ArquivoLeitura()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+}
+
+ErroArquivo ArquivoLeitura::Abrir(const QString &caminho)
+{
+    m_caminho = caminho;
+    const QByteArray nome = nomeLocal(caminho);
+    // Looked at before opening: opening a device or a FIFO can itself wait or
+    // have effects.
+    struct stat st;
+    if (::stat(nome.constData(), &st) != 0)
+        return ErroDoSistema(errno, caminho);
+    if (!S_ISREG(st.st_mode))
+        return acessoAoCaminho();
+    m_fd = ::open(nome.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (m_fd < 0)
+        return ErroDoSistema(errno, caminho);
+    // The name may have been swapped for something else in between.
+    if (::fstat(m_fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(m_fd);
+        m_fd = -1;
+        return acessoAoCaminho();
+    }
+    m_restante = st.st_size;
+    return {};
+}
+
+ErroArquivo ArquivoLeitura::Ler(qint64 n, QByteArray &destino)
+{
+    n = std::min(n, m_restante);
+    if (m_fd < 0 || n <= 0)
+        return {};
+    const qsizetype inicio = destino.size();
+    destino.resize(inicio + n);
+    qint64 lidos = 0;
+    while (lidos < n) {
+        const ssize_t k = ::read(m_fd, destino.data() + inicio + lidos, size_t(std::min<qint64>(n - lidos, 1 << 30)));
+        if (k < 0) {
+            if (errno == EINTR)
+                continue;
+            const int e = errno;
+            destino.truncate(inicio + lidos);
+            return ErroDoSistema(e, m_caminho);
+        }
+        if (k == 0)
+            break;  // the file shrank since it was opened
+        lidos += k;
+    }
+    destino.truncate(inicio + lidos);
+    m_restante = lidos < n ? 0 : m_restante - lidos;
+    return {};
+}
+
+ErroArquivo LerArquivoRegular(const QString &caminho, qint64 maximo, QByteArray &dados)
+{
+    dados.clear();
+    ArquivoLeitura f;
+    if (const ErroArquivo e = f.Abrir(caminho))
+        return e;
+    return f.Ler(maximo, dados);
+}
+
+}  // namespace lumeta

@@ -1,0 +1,54 @@
+#pragma once
+// Whole files read and written through the system's own calls, so that every
+// failure is seen where it happens (a full disk shows on write, on sync or on
+// close, never later) and is told to the user with the error number and the
+// Portuguese text the editor's users know from their own system.
+
+#include <QByteArray>
+#include <QString>
+
+namespace lumeta {
+
+struct ErroArquivo {
+    int numero = 0;      // 0: no error
+    QString descricao;
+
+    explicit operator bool() const { return numero != 0; }
+};
+
+// The editor's number and text for a system error code (errno). A missing
+// file is told apart from a missing folder when the path is given.
+ErroArquivo ErroDoSistema(int codigo, const QString &caminho = QString());
+
+// Replaces the file at `caminho` with `dados`: everything is written to a new
+// file beside it, synced to disk and only then renamed over the old one, so a
+// failure at any step leaves the old file byte for byte. A character device or
+// a FIFO with a reader is written into, never replaced; a folder, a block
+// device, a socket or a FIFO nobody reads is refused.
+ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados);
+
+// A regular file opened for reading. Anything else (folder, device, FIFO,
+// socket) is refused before a byte is read, and no read goes past the size the
+// file had when it was opened, so memory stays bounded by that size.
+class ArquivoLeitura {
+public:
+    ArquivoLeitura() = default;
+    ArquivoLeitura(const ArquivoLeitura &) = delete;
+    ArquivoLeitura &operator=(const ArquivoLeitura &) = delete;
+    ~ArquivoLeitura();
+
+    ErroArquivo Abrir(const QString &caminho);
+    qint64 Restante() const { return m_restante; }
+    // Appends up to n bytes (fewer at the end of the file) to `destino`.
+    ErroArquivo Ler(qint64 n, QByteArray &destino);
+
+private:
+    int m_fd = -1;
+    qint64 m_restante = 0;
+    QString m_caminho;
+};
+
+// The first `maximo` bytes of a regular file (all of it when smaller).
+ErroArquivo LerArquivoRegular(const QString &caminho, qint64 maximo, QByteArray &dados);
+
+}  // namespace lumeta

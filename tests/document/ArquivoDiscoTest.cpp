@@ -1,0 +1,320 @@
+// Files under bad conditions, on the real thing: a disk filled to the last
+// byte, device nodes, FIFOs, folders, /dev/zero as input and /dev/full as the
+// CLI's standard output. Nothing old may be lost and no message may carry the
+// system's English text.
+#include "controls/ModuloAssociar.h"
+#include "document/ArquivoDisco.h"
+#include "document/ArquivoLMT.h"
+#include "editing/SessaoEdicao.h"
+#include "output/CopiarComo.h"
+#include "output/Linguagem.h"
+#include "support/InterfaceRoteirizada.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace lumeta;
+
+namespace {
+
+// English from the system or from Qt: any errno text, or words they use.
+void SemIngles(const QString &mensagem)
+{
+    for (int e = 1; e < 134; ++e)
+        EXPECT_FALSE(mensagem.contains(QString::fromLocal8Bit(std::strerror(e)))) << mensagem.toStdString();
+    static const QRegularExpression ingles(
+        QStringLiteral("\\b(file|error|such|denied|directory|space|device|writable|existing|unknown)\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    EXPECT_FALSE(ingles.match(mensagem).hasMatch()) << mensagem.toStdString();
+}
+
+QStringList Entradas(const QString &pasta)
+{
+    return QDir(pasta).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+struct Execucao {
+    int codigo;
+    bool terminou;
+    QByteArray erros;
+};
+
+Execucao Cli(const QStringList &args, const QString &saida = QString(),
+             const QString &programa = QStringLiteral(LUMETA_CLI))
+{
+    QProcess p;
+    if (!saida.isEmpty())
+        p.setStandardOutputFile(saida);
+    p.start(programa, args);
+    const bool terminou = p.waitForFinished(20000);
+    p.kill();
+    return {p.exitCode(), terminou, p.readAllStandardError()};
+}
+
+// A tmpfs of a few pages in a temporary folder, unmounted at the end.
+class DiscoPequeno {
+public:
+    DiscoPequeno()
+    {
+        if (::geteuid() != 0) {
+            motivo = "montar um tmpfs exige root";
+            return;
+        }
+        if (::mount("tmpfs", qPrintable(dir.path()), "tmpfs", 0, "size=64k,mode=0755") != 0) {
+            motivo = std::string("mount falhou: errno ") + std::to_string(errno);
+            return;
+        }
+        montado = true;
+    }
+    ~DiscoPequeno()
+    {
+        if (montado)
+            ::umount2(qPrintable(dir.path()), MNT_DETACH);
+    }
+    // Takes every byte left, first in blocks, then one byte at a time.
+    void Encher()
+    {
+        const int fd = ::open(qPrintable(dir.filePath(QStringLiteral("enchimento"))), O_WRONLY | O_CREAT, 0644);
+        const QByteArray bloco(4096, 'z');
+        while (::write(fd, bloco.constData(), size_t(bloco.size())) > 0) {
+        }
+        while (::write(fd, "z", 1) > 0) {
+        }
+        ::close(fd);
+    }
+    QTemporaryDir dir;
+    bool montado = false;
+    std::string motivo;
+};
+
+}  // namespace
+
+TEST(ArquivoDisco, DiscoCheioNaoApagaNadaEDizDiscoCheio)
+{
+    DiscoPequeno disco;
+    if (!disco.montado)
+        GTEST_SKIP() << disco.motivo;
+    const QString pasta = disco.dir.path();
+    const QString lmt = pasta + QStringLiteral("/keep.lmt");
+    SessaoEdicao s;
+    ASSERT_TRUE(GravarArquivoLMT(lmt, s.Documento).ok);
+    const QByteArray antigo = teste::LerArquivo(lmt);
+    const QString lin = pasta + QStringLiteral("/Cobol.lin");
+    ASSERT_EQ(GravarArquivoLinguagem(lin, LinguagemPadrao()).resultado, ResultadoLin::Ok);
+    const QByteArray linAntiga = teste::LerArquivo(lin);
+    disco.Encher();
+    const QStringList antes = Entradas(pasta);
+
+    for (int b = 0; b < 40; ++b)
+        s.AddBanda(0, false, 30, 500);
+    const ResultadoArquivo r = GravarArquivoLMT(lmt, s.Documento);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.mensagem, QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + lmt
+                              + QStringLiteral("!\n\n61 - Disco cheio"));
+
+    const Execucao cli = Cli({QStringLiteral("novo"), lmt});
+    EXPECT_EQ(cli.codigo, 1);
+    EXPECT_TRUE(QString::fromLocal8Bit(cli.erros).endsWith(QStringLiteral("61 - Disco cheio\n")));
+
+    teste::InterfaceRoteirizada ui;
+    ui.respostas = {Resposta::Sim};
+    EXPECT_EQ(CopiarComo(s.Documento, LinguagemPadrao(), lmt, &ui), ResultadoCopiarComo::Erro);
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_TRUE(ui.mensagens[0].texto.endsWith(QStringLiteral("61 - Disco cheio")));
+
+    LinguagemDef maior = LinguagemPadrao();
+    maior.ComandoT = QString(20000, QLatin1Char('t'));
+    EXPECT_EQ(GravarArquivoLinguagem(lin, maior).mensagem,
+              QStringLiteral("Ocorreu o erro 61 ao salvar a linguagem!\n\nDisco cheio"));
+    EXPECT_FALSE(GravarRegistro(pasta, 1, QStringLiteral("keep.lmt"), QByteArray(8000, 'r'), true, false, &ui));
+    EXPECT_TRUE(ui.mensagens.back().texto.endsWith(QStringLiteral("Ocorreu o erro: 61 - Disco cheio")));
+
+    EXPECT_EQ(teste::LerArquivo(lmt), antigo);
+    EXPECT_EQ(teste::LerArquivo(lin), linAntiga);
+    EXPECT_EQ(Entradas(pasta), antes);  // no temporary file left behind
+}
+
+// The null and full devices. As root the test makes its own nodes, so a
+// writer that replaces devices destroys only those; /dev itself is safe from
+// any other user.
+struct Dispositivos {
+    QString nulo = QStringLiteral("/dev/null"), cheio = QStringLiteral("/dev/full");
+    explicit Dispositivos(const QTemporaryDir &dir)
+    {
+        if (::geteuid() != 0)
+            return;
+        nulo = dir.filePath(QStringLiteral("null"));
+        cheio = dir.filePath(QStringLiteral("full"));
+        EXPECT_EQ(::mknod(qPrintable(nulo), S_IFCHR | 0666, makedev(1, 3)), 0);
+        EXPECT_EQ(::mknod(qPrintable(cheio), S_IFCHR | 0666, makedev(1, 7)), 0);
+    }
+};
+
+bool EhDispositivo(const QString &caminho)
+{
+    struct stat st;
+    return ::stat(qPrintable(caminho), &st) == 0 && S_ISCHR(st.st_mode);
+}
+
+TEST(ArquivoDisco, DispositivoEFifoNuncaSaoSubstituidosEPastaERecusada)
+{
+    const QByteArray dados = GravarLMT(SessaoEdicao().Documento);
+    QTemporaryDir dir;
+    const Dispositivos dev(dir);
+    // Written into, and still a device afterwards.
+    EXPECT_FALSE(GravarArquivoAtomico(dev.nulo, dados));
+    EXPECT_EQ(GravarArquivo(dev.cheio, dados).mensagem,
+              QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + dev.cheio + QStringLiteral("!\n\n61 - Disco cheio"));
+    EXPECT_TRUE(EhDispositivo(dev.nulo));
+    EXPECT_TRUE(EhDispositivo(dev.cheio));
+
+    const QString fifo = dir.filePath(QStringLiteral("fifo.lmt"));
+    ASSERT_EQ(::mkfifo(qPrintable(fifo), 0644), 0);
+    // Nobody reads it: refused at once instead of blocking.
+    EXPECT_EQ(GravarArquivoAtomico(fifo, dados).numero, 68);
+    const int leitor = ::open(qPrintable(fifo), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(leitor, 0);
+    EXPECT_FALSE(GravarArquivoAtomico(fifo, dados));
+    QByteArray lido(dados.size() + 10, '\0');
+    lido.resize(::read(leitor, lido.data(), size_t(lido.size())));
+    ::close(leitor);
+    EXPECT_EQ(lido, dados);
+    struct stat st;
+    ASSERT_EQ(::stat(qPrintable(fifo), &st), 0);
+    EXPECT_TRUE(S_ISFIFO(st.st_mode));
+
+    const QString pasta = dir.filePath(QStringLiteral("pasta.lmt"));
+    ASSERT_TRUE(QDir().mkdir(pasta));
+    EXPECT_EQ(GravarArquivo(pasta, dados).mensagem,
+              QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + pasta
+                  + QStringLiteral("!\n\n75 - Erro de acesso ao caminho/arquivo"));
+    EXPECT_TRUE(QFileInfo(pasta).isDir());
+    EXPECT_FALSE(Entradas(dir.path()).join(u' ').contains(QLatin1Char('.') + QStringLiteral("fifo.lmt.")));
+}
+
+TEST(ArquivoDisco, LeitorOlhaOCabecalhoPrimeiroERecusaOQueNaoEArquivo)
+{
+    QTemporaryDir dir;
+    const QString fifo = dir.filePath(QStringLiteral("fifo.lmt"));
+    ASSERT_EQ(::mkfifo(qPrintable(fifo), 0644), 0);
+    const QString acesso = QStringLiteral("Erro de acesso ao caminho/arquivo");
+    for (const QString &c : {QStringLiteral("/dev/zero"), fifo, dir.path()}) {
+        LayoutDocumento d;
+        const ResultadoArquivo r = AbrirArquivoLMT(c, d);
+        EXPECT_EQ(r.mensagem, MensagemErroAbrir(c, acesso));
+        LinguagemDef ling;
+        EXPECT_EQ(LerArquivoLinguagem(c, ling).mensagem,
+                  QStringLiteral("Ocorreu o erro 75 ao ler a linguagem!\n\n") + acesso);
+    }
+    // A huge file of another kind: refused from its header, nothing more read.
+    const QString enorme = dir.filePath(QStringLiteral("enorme.lmt"));
+    teste::GravarArquivoTeste(enorme, QByteArray(40, 'x'));
+    ASSERT_TRUE(QFile::resize(enorme, qint64(64) << 30));
+    LayoutDocumento d;
+    EXPECT_EQ(AbrirArquivoLMT(enorme, d).leitura, ResultadoLeitura::FormatoInvalido);
+
+    // Shorter than a header is a wrong format, not a broken file.
+    const QString curto = dir.filePath(QStringLiteral("curto.lmt"));
+    teste::GravarArquivoTeste(curto, QByteArray("LumetaEdit 1.0(t)"));
+    EXPECT_EQ(AbrirArquivoLMT(curto, d).mensagem, MensagemFormatoInvalido(curto));
+
+    // The CLI on an endless input ends at once, within a memory limit where
+    // the build lets one be set (the address sanitizer reserves more).
+#if defined(__SANITIZE_ADDRESS__)
+    const QString limite;
+#else
+    const QString limite = QStringLiteral("ulimit -v 400000; ");
+#endif
+    const Execucao r = Cli({QStringLiteral("-c"), limite + QStringLiteral("exec \"$0\" texto /dev/zero"),
+                            QStringLiteral(LUMETA_CLI)},
+                           QString(), QStringLiteral("/bin/sh"));
+    ASSERT_TRUE(r.terminou);
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_EQ(QString::fromLocal8Bit(r.erros), MensagemErroAbrir(QStringLiteral("/dev/zero"), acesso) + u'\n');
+}
+
+TEST(ArquivoDisco, SaidaPadraoCheiaEFalhasDeArquivoFalamPortugues)
+{
+    QTemporaryDir dir;
+    const QString lmt = dir.filePath(QStringLiteral("a.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(lmt, SessaoEdicao().Documento).ok);
+    Execucao r = Cli({QStringLiteral("texto"), lmt}, QStringLiteral("/dev/full"));
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_EQ(QString::fromLocal8Bit(r.erros),
+              QStringLiteral("Ocorreu um erro ao gravar a saída padrão!\n\n61 - Disco cheio\n"));
+    const Dispositivos dev(dir);
+    r = Cli({QStringLiteral("codigo-barras"), QStringLiteral("36"), QStringLiteral("A"), dev.cheio});
+    EXPECT_EQ(QString::fromLocal8Bit(r.erros),
+              QStringLiteral("Não foi possível gravar o arquivo ") + dev.cheio + QStringLiteral("\n\n61 - Disco cheio\n"));
+    EXPECT_TRUE(EhDispositivo(dev.cheio));
+
+    // Every failure path, with the number a Portuguese system gives it.
+    const QString semPasta = dir.filePath(QStringLiteral("nao/existe.lmt"));
+    const QString falta = dir.filePath(QStringLiteral("falta.lmt"));
+    const QString somenteLeitura = dir.filePath(QStringLiteral("ro.lmt"));
+    teste::GravarArquivoTeste(somenteLeitura, "x");
+    QFile::setPermissions(somenteLeitura, QFile::ReadOwner);
+    QStringList mensagens;
+    const QByteArray dados("abc");
+    mensagens << GravarArquivo(semPasta, dados).mensagem << GravarArquivo(dir.path(), dados).mensagem;
+    EXPECT_TRUE(mensagens[0].endsWith(QStringLiteral("!\n\n76 - Caminho não encontrado")));
+    if (::geteuid() != 0) {  // root may write anything
+        mensagens << GravarArquivo(somenteLeitura, dados).mensagem;
+        EXPECT_TRUE(mensagens.back().endsWith(QStringLiteral("!\n\n70 - Permissão negada")));
+    }
+    LayoutDocumento d;
+    mensagens << AbrirArquivoLMT(falta, d).mensagem << AbrirArquivoLMT(semPasta, d).mensagem;
+    EXPECT_EQ(mensagens.back(), MensagemErroAbrir(semPasta, QStringLiteral("Caminho não encontrado")));
+    EXPECT_EQ(mensagens[mensagens.size() - 2], MensagemErroAbrir(falta, QStringLiteral("Arquivo não encontrado")));
+    LinguagemDef ling;
+    mensagens << LerArquivoLinguagem(dir.path(), ling).mensagem
+              << GravarArquivoLinguagem(dir.filePath(QStringLiteral("nao/x.lin")), ling).mensagem;
+    teste::InterfaceRoteirizada ui;
+    CopiarComo(SessaoEdicao().Documento, ling, semPasta, &ui);
+    GravarRegistro(lmt, 1, QStringLiteral("v"), dados, true, false, &ui);
+    for (const auto &m : ui.mensagens)
+        mensagens << m.texto;
+    EXPECT_EQ(ui.mensagens.size(), 2);
+    mensagens << QString::fromLocal8Bit(Cli({QStringLiteral("novo"), dir.path()}).erros)
+              << QString::fromLocal8Bit(Cli({QStringLiteral("texto"), falta}).erros);
+    for (const QString &m : mensagens) {
+        EXPECT_FALSE(m.isEmpty());
+        SemIngles(m);
+    }
+}
+
+TEST(ArquivoDisco, ArquivoGravavelEmPastaSomenteLeituraEReescritoNoLugar)
+{
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("layout.lmt"));
+    teste::GravarArquivoTeste(caminho, QByteArray(300, 'v'));
+    const QByteArray dados = GravarLMT(SessaoEdicao().Documento);
+    // Root writes into any folder: a user without rights to it does the save.
+    const uid_t usuario = ::geteuid() == 0 ? 65534 : ::geteuid();
+    ASSERT_EQ(::chown(qPrintable(caminho), usuario, gid_t(-1)), 0);
+    ASSERT_EQ(::chmod(qPrintable(dir.path()), 0555), 0);
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        if (::geteuid() == 0 && ::setuid(usuario) != 0)
+            ::_exit(100);
+        ::_exit(GravarArquivoAtomico(caminho, dados).numero);
+    }
+    int estado = 0;
+    ::waitpid(filho, &estado, 0);
+    ::chmod(qPrintable(dir.path()), 0755);
+    ASSERT_TRUE(WIFEXITED(estado));
+    EXPECT_EQ(WEXITSTATUS(estado), 0);
+    EXPECT_EQ(teste::LerArquivo(caminho), dados);
+}

@@ -2,6 +2,7 @@
 // on a new one.
 #include "app/gui/frmLumetaEdit.h"
 #include "controls/ui/InterfaceUsuarioQt.h"
+#include "document/ArquivoDisco.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -16,7 +17,11 @@ int main(int argc, char **argv)
     // Without the translations Qt's dialogs speak English; the editor still works.
     lumeta::CarregarTraducoesQt(app);
     lumeta::frmLumetaEdit janela;
-    if (!janela.Iniciar(QApplication::arguments().mid(1)))
+    // The arguments as the system gave them: a file name need not be UTF-8.
+    QStringList argumentos;
+    for (int i = 1; i < argc; ++i)
+        argumentos << lumeta::NomeDoSistema(argv[i]);
+    if (!janela.Iniciar(argumentos))
         return 1;
     // A window as large as a laptop screen allows, centred on larger ones.
     if (const QScreen *tela = janela.screen()) {

@@ -26,7 +26,36 @@ ErroArquivo acessoAoCaminho()
 
 QByteArray nomeLocal(const QString &caminho)
 {
-    return QFile::encodeName(caminho);
+    return NomeParaSistema(caminho);
+}
+
+// The length of the valid UTF-8 sequence at p (1 to 4), or 0.
+int sequenciaUtf8(const unsigned char *p, qsizetype resta)
+{
+    const unsigned char c = p[0];
+    int n;
+    char32_t minimo, v;
+    if (c < 0x80)
+        return 1;
+    if (c >= 0xC2 && c <= 0xDF) {
+        n = 2, minimo = 0x80, v = c & 0x1F;
+    } else if (c >= 0xE0 && c <= 0xEF) {
+        n = 3, minimo = 0x800, v = c & 0x0F;
+    } else if (c >= 0xF0 && c <= 0xF4) {
+        n = 4, minimo = 0x10000, v = c & 0x07;
+    } else {
+        return 0;
+    }
+    if (resta < n)
+        return 0;
+    for (int i = 1; i < n; ++i) {
+        if ((p[i] & 0xC0) != 0x80)
+            return 0;
+        v = (v << 6) | (p[i] & 0x3F);
+    }
+    if (v < minimo || v > 0x10FFFF || (v >= 0xD800 && v <= 0xDFFF))
+        return 0;
+    return n;
 }
 
 // Writes everything or returns the errno that stopped it.
@@ -291,6 +320,46 @@ ErroArquivo LerArquivoRegular(const QString &caminho, qint64 maximo, QByteArray 
     if (const ErroArquivo e = f.Abrir(caminho))
         return e;
     return f.Ler(maximo, dados);
+}
+
+QString NomeDoSistema(QByteArrayView bytes)
+{
+    const auto *p = reinterpret_cast<const unsigned char *>(bytes.data());
+    const qsizetype n = bytes.size();
+    QString r;
+    r.reserve(n);
+    qsizetype i = 0;
+    while (i < n) {
+        qsizetype j = i;
+        int k;
+        while (j < n && (k = sequenciaUtf8(p + j, n - j)) > 0)
+            j += k;
+        r += QString::fromUtf8(bytes.data() + i, j - i);
+        if (j < n) {
+            r += QChar(char16_t(0xDC00 + p[j]));
+            ++j;
+        }
+        i = j;
+    }
+    return r;
+}
+
+QByteArray NomeParaSistema(const QString &nome)
+{
+    QByteArray r;
+    r.reserve(nome.size());
+    qsizetype inicio = 0;
+    for (qsizetype i = 0; i < nome.size(); ++i) {
+        const char16_t c = nome.at(i).unicode();
+        const bool escapado = c >= 0xDC80 && c <= 0xDCFF && (i == 0 || !nome.at(i - 1).isHighSurrogate());
+        if (!escapado)
+            continue;
+        r += QStringView(nome).mid(inicio, i - inicio).toUtf8();
+        r += char(c - 0xDC00);
+        inicio = i + 1;
+    }
+    r += QStringView(nome).mid(inicio).toUtf8();
+    return r;
 }
 
 }  // namespace lumeta

@@ -16,6 +16,13 @@ struct ErroArquivo {
     explicit operator bool() const { return numero != 0; }
 };
 
+// File names as the system spells them, bytes that need not be UTF-8. A
+// byte that is not part of valid UTF-8 becomes the lone surrogate U+DC00 +
+// byte, and goes back to the same byte, so a name in another encoding
+// (Latin-1 from an old system, say) still reaches its file.
+QString NomeDoSistema(QByteArrayView bytes);
+QByteArray NomeParaSistema(const QString &nome);
+
 // The editor's number and text for a system error code (errno). A missing
 // file is told apart from a missing folder when the path is given.
 ErroArquivo ErroDoSistema(int codigo, const QString &caminho = QString());

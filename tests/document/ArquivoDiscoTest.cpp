@@ -318,3 +318,28 @@ TEST(ArquivoDisco, ArquivoGravavelEmPastaSomenteLeituraEReescritoNoLugar)
     EXPECT_EQ(WEXITSTATUS(estado), 0);
     EXPECT_EQ(teste::LerArquivo(caminho), dados);
 }
+
+TEST(ArquivoDisco, NomesQueNaoSaoUtf8ChegamAoArquivo)
+{
+    for (const QByteArray &nome : {QByteArray("caf\xE9.lmt"), QByteArray("rela\xC3\xA7\xC3\xA3o \xFF\xFE.lmt"),
+                                   QByteArray("a\xED\xA0\x80z"), QByteArray("\xC3")})
+        EXPECT_EQ(NomeParaSistema(NomeDoSistema(nome)), nome);
+    EXPECT_EQ(NomeDoSistema("rela\xC3\xA7\xC3\xA3o"), QStringLiteral("relação"));
+
+    // A Latin-1 name from the command line: created, then read back.
+    QTemporaryDir dir;
+    const QByteArray bruto = QFile::encodeName(dir.path()) + "/caf\xE9.lmt";
+    const Execucao novo = Cli({QStringLiteral("-c"), QStringLiteral("exec \"$0\" novo \"$1/$(printf 'caf\\351.lmt')\""),
+                               QStringLiteral(LUMETA_CLI), dir.path()},
+                              QString(), QStringLiteral("/bin/sh"));
+    ASSERT_EQ(novo.codigo, 0) << novo.erros.toStdString();
+    struct stat st;
+    ASSERT_EQ(::stat(bruto.constData(), &st), 0);
+    EXPECT_EQ(st.st_size, GravarLMT(SessaoEdicao().Documento).size());
+    const QString saida = dir.filePath(QStringLiteral("texto.txt"));
+    const Execucao texto = Cli({QStringLiteral("-c"), QStringLiteral("exec \"$0\" texto \"$1/$(printf 'caf\\351.lmt')\""),
+                                QStringLiteral(LUMETA_CLI), dir.path()},
+                               saida, QStringLiteral("/bin/sh"));
+    EXPECT_EQ(texto.codigo, 0) << texto.erros.toStdString();
+    EXPECT_TRUE(teste::LerArquivo(saida).startsWith("QJ 92"));
+}

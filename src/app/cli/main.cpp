@@ -94,7 +94,10 @@ int main(int argc, char **argv)
             }
         });
     QGuiApplication app(argc, argv);
-    QStringList args = app.arguments().mid(1);
+    // The arguments as the system gave them: a file name need not be UTF-8.
+    QStringList args;
+    for (int i = 1; i < argc; ++i)
+        args << lumeta::NomeDoSistema(argv[i]);
 
     // Standard output is written unbuffered and checked, so a full disk or a
     // closed reader behind it fails the command instead of losing the text.

@@ -246,6 +246,9 @@ void SessaoEdicao::DesfazerEdicao()
     if (!Desfazer.PodeDesfazer())
         return;
     Desfazer.Voltar(Documento, BandaSelecionada, ItemSelecionado);
+    // The range was drawn over the bands being replaced: it may name bands
+    // or items the restored layout does not have.
+    Faixa = FaixaSelecao();
     Desfazer.SemInstantaneo = true;
     ExibirBanda();
     chamar(Ganchos.SelecionarBanda);

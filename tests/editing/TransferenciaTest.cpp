@@ -252,11 +252,14 @@ TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
         }
         estados << s.Documento;
     }
+    // A range drawn over the present bands does not outlive them.
+    mnuEditarTudo(s);
     int desfeitos = 0;
     while (s.PodeDesfazer()) {
         s.DesfazerEdicao();
         ++desfeitos;
         EXPECT_EQ(s.Documento.Bandas, estados[15 - desfeitos].Bandas) << desfeitos;
+        EXPECT_FALSE(s.Faixa.visivel);
     }
     EXPECT_EQ(desfeitos, 12);
 

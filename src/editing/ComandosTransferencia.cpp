@@ -45,6 +45,25 @@ QList<Banda> bandasCopiadas(const SessaoEdicao &s)
     return r;
 }
 
+// Whether a band read from the exchange file can be laid out: items, and
+// sizes far beyond any page but small enough that the sums of widths and
+// heights the layout makes stay inside 32 bits. Anything else was not
+// written by a copy.
+bool bandaAceitavel(const Banda &b)
+{
+    constexpr qint64 Limite = 1 << 20;
+    const auto dentro = [](qint64 v) { return v >= -Limite && v <= Limite; };
+    if (b.Itens.isEmpty() || !dentro(b.Altura) || (b.Deslocamento != -9999 && !dentro(b.Deslocamento)))
+        return false;
+    qint64 soma = 0;
+    for (const Item &it : b.Itens) {
+        if (it.Largura < 0 || it.Largura > Limite)
+            return false;
+        soma += it.Largura;
+    }
+    return soma <= Limite * 64;
+}
+
 }  // namespace
 
 QByteArray MarcadorTransferencia(int maior, int menor, int revisao)
@@ -88,7 +107,7 @@ std::optional<QList<Banda>> LerAreaTransferencia(SessaoEdicao &s)
         return std::nullopt;
     }
     for (const Banda &b : bandas)
-        if (b.Itens.isEmpty()) {
+        if (!bandaAceitavel(b)) {
             avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
             return std::nullopt;
         }

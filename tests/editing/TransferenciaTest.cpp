@@ -211,28 +211,41 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
 }
 
-TEST_F(Transferencia, ColarDadosLegiveisMasAbsurdosNaoQuebraOEditor)
+TEST_F(Transferencia, ColarMedidasQueOLayoutNaoComportaERecusado)
 {
     Montar({{64}});
-    Banda b;
-    b.Altura = INT32_MIN;
-    b.Deslocamento = INT32_MIN;
-    for (int32_t w : {INT32_MAX, INT32_MAX, INT32_MIN, -5, 0}) {
-        Item it;
-        it.Largura = w;
-        it.Esquerda = INT32_MIN;
-        it.Fonte.Tamanho = -3;
-        it.Espessura = 0;
-        b.Itens.append(it);
-    }
-    GravarArquivoTeste(s.ArquivoTransferencia, GravarBandas(MarcadorTransferencia(), {b, b}));
-    mnuEditarColarBanda(s);
     Selecionar(1, 1);
-    mnuEditarColarItem(s);
-    // Whatever was taken, the editor still lays the layout out and keeps its rules.
-    EXPECT_GE(s.Documento.NumBandas(), 1);
-    for (const Banda &banda : s.Documento.Bandas)
-        EXPECT_GE(banda.NumItens(), 1);
+    const LayoutDocumento antes = s.Documento;
+    Banda boa = antes.banda(1);
+    boa.Deslocamento = -9999;
+    const auto colar = [&](const Banda &b) {
+        GravarArquivoTeste(s.ArquivoTransferencia, GravarBandas(MarcadorTransferencia(), {boa, b}));
+        ui.mensagens.clear();
+        s.Documento = antes;
+        mnuEditarColarBanda(s);
+        mnuEditarColarItem(s);
+        return ui.mensagens.size();
+    };
+    EXPECT_EQ(colar(boa), 0);
+    ASSERT_EQ(s.Documento.NumBandas(), 3);
+    EXPECT_EQ(s.Documento.banda(3).NumItens(), 3);  // the pasted bands went above it
+    const auto com = [&](const std::function<void(Banda &)> &f) {
+        Banda b = boa;
+        f(b);
+        return b;
+    };
+    const Banda absurdas[] = {
+        com([](Banda &b) { b.Itens[0].Largura = INT32_MAX; }),
+        com([](Banda &b) { b.Itens[0].Largura = -5; }),
+        com([](Banda &b) { b.Altura = INT32_MIN; }),
+        com([](Banda &b) { b.Deslocamento = INT32_MIN; }),
+        com([](Banda &b) { b.Itens = QList<Item>(200, b.Itens[0]); for (Item &it : b.Itens) it.Largura = 1 << 20; }),
+    };
+    for (const Banda &b : absurdas) {
+        EXPECT_EQ(colar(b), 2);
+        EXPECT_EQ(ui.mensagens[0].texto, Invalido);
+        EXPECT_EQ(s.Documento, antes);
+    }
 }
 
 TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)

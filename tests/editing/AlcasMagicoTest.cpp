@@ -137,8 +137,7 @@ TEST_F(Alcas, LimitesDoCanvasArredondadosAGrade)
 TEST_F(Alcas, FaixaCopiaALarguraEmVariasBandasOuDentroDeUma)
 {
     Montar({{64, 64}, {64, 32}, {64}});
-    MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 80, 40, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(10, 20, 80, 40);
     ASSERT_TRUE(s.Faixa.VariasBandas());
     Arrastar(s, 6, 16, 0);
     for (int b : {1, 2})
@@ -153,8 +152,7 @@ TEST_F(Alcas, FaixaCopiaALarguraEmVariasBandasOuDentroDeUma)
     EXPECT_EQ(B(3).Altura, 18);
 
     Montar({{64, 64, 64, 64}, {64}});
-    MouseDownCanvas(s, 80, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 140, 20, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(80, 20, 140, 20);
     ASSERT_TRUE(s.Faixa.UmaBanda());
     Arrastar(s, 6, 16, 0);
     EXPECT_EQ(I(1, 1).Largura, 64);

@@ -3,6 +3,7 @@
 // user, the exchange file in a temporary folder, and counters of the
 // window hooks that the commands call.
 
+#include "editing/Selecao.h"
 #include "editing/SessaoEdicao.h"
 #include "support/InterfaceRoteirizada.h"
 
@@ -61,6 +62,12 @@ protected:
     {
         s.BandaSelecionada = banda;
         s.ItemSelecionado = item;
+    }
+    // A click on one point, then a Shift+click on another: the range between.
+    void CliqueEShiftClique(int x1, int y1, int x2, int y2)
+    {
+        MouseDownCanvas(s, x1, y1, BotaoMouse::Esquerdo, false);
+        MouseDownCanvas(s, x2, y2, BotaoMouse::Esquerdo, true);
     }
     const Banda &B(int n) const { return s.Documento.banda(n); }
     const Item &I(int banda, int item) const { return s.Documento.banda(banda).Itens[item - 1]; }

@@ -56,8 +56,7 @@ TEST_F(Teclado, ShiftRedimensionaDeOitoEmOitoEntreUmE9999)
 TEST_F(Teclado, ShiftComFaixaCopiaALarguraEAAltura)
 {
     Montar({{64, 32}, {40}, {16}});
-    MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(10, 20, 10, 40);
     ASSERT_TRUE(s.Faixa.VariasBandas());
     Tecla(s, Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(I(1, 1).Largura, 72);
@@ -73,8 +72,7 @@ TEST_F(Teclado, ShiftComFaixaCopiaALarguraEAAltura)
 
     // Inside one band: its items from first to last.
     Montar({{64, 32, 16, 8}});
-    MouseDownCanvas(s, 80, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 110, 20, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(80, 20, 110, 20);
     ASSERT_EQ(s.Faixa, (FaixaSelecao{true, 1, 1, 2, 3}));
     Tecla(s, Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_EQ(Textos(1).size(), 4);

@@ -34,8 +34,7 @@ TEST(MarcadorTransferencia, TrintaEDoisBytesComAVersaoExata)
 TEST_F(Transferencia, CopiarItensDoisETresEColarAntesDoItemUmDeOutraBanda)
 {
     Montar({{64, 32, 16, 8}, {40, 24}});
-    MouseDownCanvas(s, 80, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 110, 20, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(80, 20, 110, 20);
     ASSERT_TRUE(mnuEditarCopiar(s));
     const QByteArray dados = LerArquivo(s.ArquivoTransferencia);
     EXPECT_TRUE(dados.startsWith(MarcadorTransferencia()));
@@ -61,8 +60,7 @@ TEST_F(Transferencia, CopiarItensDoisETresEColarAntesDoItemUmDeOutraBanda)
 TEST_F(Transferencia, ColarBandasNoFimDepoisDeCliqueAbaixoOuAntesDaSelecionada)
 {
     Montar({{64}, {32}, {16}});
-    MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 10, 60, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(10, 40, 10, 60);
     ASSERT_TRUE(mnuEditarCopiar(s));  // bands 2 and 3, whole
 
     MouseDownCanvas(s, 10, 300, BotaoMouse::Esquerdo, false);
@@ -93,15 +91,13 @@ TEST_F(Transferencia, RecortarExcluirERecusaDeExcluirTodas)
     EXPECT_EQ(s.Documento.NumBandas(), 2);
     // A range holding every item of the only band is the whole band too.
     Montar({{64, 32}});
-    MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 80, 20, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(10, 20, 80, 20);
     mnuEditarRecortar(s);
     EXPECT_EQ(ui.mensagens.size(), 2);
     EXPECT_EQ(B(1).NumItens(), 2);
 
     Montar({{64, 32, 16}, {40}});
-    MouseDownCanvas(s, 80, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 110, 20, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(80, 20, 110, 20);
     mnuEditarRecortar(s);
     EXPECT_EQ(Textos(1), QStringList{"1.1"});
     EXPECT_FALSE(s.Faixa.visivel);
@@ -109,8 +105,7 @@ TEST_F(Transferencia, RecortarExcluirERecusaDeExcluirTodas)
     mnuEditarColarItem(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.2", "1.3", "1.1"}));
     // Cutting a range over whole bands removes them.
-    MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
-    MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, true);
+    CliqueEShiftClique(10, 20, 10, 40);
     s.Documento.Bandas.append(s.Documento.banda(2));
     mnuEditarRecortar(s);
     EXPECT_EQ(s.Documento.NumBandas(), 1);

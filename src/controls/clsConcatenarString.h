@@ -9,6 +9,9 @@ namespace lumeta {
 class clsConcatenarString {
 public:
     void Clear();
+    // Empties the text but keeps the buffer, for a text built again and
+    // again (the command text of every edit).
+    void Esvaziar() { usado_ = 0; }
     void Add(const QString &texto) { Add(texto.constData(), texto.size()); }
     void Add(QLatin1StringView texto);
     void Add(const QChar *dados, qsizetype n);

@@ -47,6 +47,25 @@ QList<Banda> bandasCopiadas(const SessaoEdicao &s)
     return r;
 }
 
+// Whether a band read from the exchange file can be laid out: items, and
+// sizes far beyond any page but small enough that the sums of widths and
+// heights the layout makes stay inside 32 bits. Anything else was not
+// written by a copy.
+bool bandaAceitavel(const Banda &b)
+{
+    constexpr qint64 Limite = 1 << 20;
+    const auto dentro = [](qint64 v) { return v >= -Limite && v <= Limite; };
+    if (b.Itens.isEmpty() || !dentro(b.Altura) || (b.Deslocamento != -9999 && !dentro(b.Deslocamento)))
+        return false;
+    qint64 soma = 0;
+    for (const Item &it : b.Itens) {
+        if (it.Largura < 0 || it.Largura > Limite)
+            return false;
+        soma += it.Largura;
+    }
+    return soma <= Limite * 64;
+}
+
 }  // namespace
 
 QByteArray MarcadorTransferencia(int maior, int menor, int revisao)
@@ -78,9 +97,7 @@ std::optional<QList<Banda>> LerAreaTransferencia(SessaoEdicao &s)
     QList<Banda> bandas;
     const bool lido = !f.Abrir(s.ArquivoTransferencia) && !f.Ler(TamanhoMarcador, dados)
         && dados == MarcadorTransferencia() && !f.Ler(f.Restante(), dados) && LerBandas(dados, TamanhoMarcador, bandas);
-    // Every band keeps at least one item, so a band without any is damage too.
-    if (!lido || bandas.isEmpty()
-        || std::any_of(bandas.cbegin(), bandas.cend(), [](const Banda &b) { return b.Itens.isEmpty(); })) {
+    if (!lido || bandas.isEmpty() || !std::all_of(bandas.cbegin(), bandas.cend(), bandaAceitavel)) {
         avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
         return std::nullopt;
     }

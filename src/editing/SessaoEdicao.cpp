@@ -228,7 +228,6 @@ void SessaoEdicao::ExibirResultado()
 {
     GerarTextoComandos(Documento, m_resultado);
     TextoResultado = m_resultado.ResultString();
-    m_resultado.Clear();
     if (Ganchos.MostrarResultado)
         Ganchos.MostrarResultado(TextoResultado);
 }
@@ -246,6 +245,9 @@ void SessaoEdicao::DesfazerEdicao()
     if (!Desfazer.PodeDesfazer())
         return;
     Desfazer.Voltar(Documento, BandaSelecionada, ItemSelecionado);
+    // The range was drawn over the bands being replaced: it may name bands
+    // or items the restored layout does not have.
+    Faixa = FaixaSelecao();
     Desfazer.SemInstantaneo = true;
     ExibirBanda();
     chamar(Ganchos.SelecionarBanda);

@@ -121,7 +121,7 @@ bool TemLinhaL(const Item &item)
 
 void GerarTextoComandos(const LayoutDocumento &doc, clsConcatenarString &s)
 {
-    s.Clear();
+    s.Esvaziar();
     if (!doc.NomeImpressora.isEmpty()) {
         s.Add(QLatin1StringView("I "));
         s.Add(doc.NomeImpressora);

@@ -1,0 +1,242 @@
+#include "editing/AlcasMagico.h"
+#include "editing/Selecao.h"
+#include "editing/SessaoMontada.h"
+
+#include <QLocale>
+
+using namespace lumeta;
+using Alcas = lumeta::teste::SessaoMontada;
+using Magico = lumeta::teste::SessaoMontada;
+
+namespace {
+
+// One whole drag of handle `alca` from its own centre by (dx, dy); returns
+// the rubber frame before the release.
+QRect Arrastar(SessaoEdicao &s, int alca, double dx, double dy)
+{
+    const QPointF inicio = QRectF(RetanguloAlca(RetanguloSelecao(s), alca)).center();
+    EXPECT_TRUE(IniciarArrasteAlca(s, alca, inicio));
+    const QRect r = MoverArrasteAlca(s, inicio + QPointF(dx, dy));
+    SoltarArrasteAlca(s);
+    return r;
+}
+
+}  // namespace
+
+TEST_F(Alcas, LarguraEmPassosDeOitoTruncadosParaZeroEOCicloSoNoSoltar)
+{
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    ASSERT_EQ(RetanguloSelecao(s), QRect(8, 34, 64, 18));
+    const int posicao = s.Desfazer.PosicaoDesfazer;
+    ASSERT_TRUE(IniciarArrasteAlca(s, 6, QPointF(72, 43)));
+    EXPECT_EQ(MoverArrasteAlca(s, QPointF(79, 43)), QRect(8, 34, 64, 18));
+    EXPECT_EQ(MoverArrasteAlca(s, QPointF(80, 43)), QRect(8, 34, 72, 18));
+    EXPECT_EQ(MoverArrasteAlca(s, QPointF(65, 50)), QRect(8, 34, 64, 18));
+    EXPECT_EQ(MoverArrasteAlca(s, QPointF(57, 43)), QRect(8, 34, 56, 18));  // -15 is one step, not two
+    EXPECT_EQ(I(2, 1).Largura, 64);
+    EXPECT_EQ(pinturas, 0);
+    EXPECT_EQ(s.Desfazer.PosicaoDesfazer, posicao);
+    SoltarArrasteAlca(s);
+    EXPECT_EQ(pinturas, 1);
+    EXPECT_EQ(I(2, 1).Largura, 56);
+    EXPECT_EQ(I(2, 2).Esquerda, 56);
+    EXPECT_TRUE(s.PodeDesfazer());
+    EXPECT_FALSE(s.Alca.Ativo());
+
+    // A 7-pixel move in both directions changes nothing and paints nothing.
+    Arrastar(s, 7, 7, 7);
+    Arrastar(s, 0, -7, -7);
+    EXPECT_EQ(pinturas, 1);
+    EXPECT_EQ(I(2, 1).Largura, 56);
+    EXPECT_EQ(B(2).Altura, 18);
+
+    // The mouse keeps widths at 8 at least; the left edge stops at 0.
+    EXPECT_EQ(Arrastar(s, 6, -164, 0), QRect(8, 34, 8, 18));
+    EXPECT_EQ(I(2, 1).Largura, 8);
+    EXPECT_EQ(Arrastar(s, 1, -108, 0), QRect(0, 34, 16, 18));
+    EXPECT_EQ(I(2, 1).Largura, 16);
+    EXPECT_EQ(Arrastar(s, 1, 80, 0), QRect(16, 34, 8, 18));
+    EXPECT_EQ(I(2, 1).Largura, 8);
+}
+
+TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
+{
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    EXPECT_EQ(Arrastar(s, 4, 0, -24), QRect(8, 34, 64, 1));
+    EXPECT_EQ(B(2).Altura, 1);
+    EXPECT_EQ(B(3).Topo, 35);
+
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    EXPECT_EQ(Arrastar(s, 5, 0, 24), QRect(8, 51, 64, 1));
+    EXPECT_EQ(B(2).Altura, 1);
+
+    // The top handle moves the band with the frame.
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    EXPECT_EQ(Arrastar(s, 3, 0, 16), QRect(8, 50, 64, 18));
+    EXPECT_EQ(B(2).Deslocamento, 16);
+    EXPECT_EQ(B(2).Topo, 50);
+    EXPECT_EQ(Arrastar(s, 3, 0, -32), QRect(8, 18, 64, 18));
+    EXPECT_EQ(B(2).Deslocamento, -16);
+    EXPECT_EQ(B(2).Topo, 18);
+    // It stops at the previous band's top, and covering that band whole is -9999.
+    EXPECT_EQ(Arrastar(s, 3, 0, -80), QRect(8, 16, 64, 18));
+    EXPECT_EQ(B(2).Deslocamento, -9999);
+    EXPECT_EQ(B(2).Topo, 16);
+    // -9999 is read as the previous band's height when a drag starts.
+    ASSERT_TRUE(IniciarArrasteAlca(s, 7, QPointF(72, 34)));
+    EXPECT_EQ(B(2).Deslocamento, -9999);
+    MoverArrasteAlca(s, QPointF(73, 35));
+    EXPECT_EQ(B(2).Deslocamento, -18);
+    SoltarArrasteAlca(s);
+    EXPECT_EQ(B(2).Topo, 16);
+
+    // The top-left corner grows the band upwards.
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    EXPECT_EQ(Arrastar(s, 0, 0, -8), QRect(8, 26, 64, 26));
+    EXPECT_EQ(B(2).Altura, 26);
+    EXPECT_EQ(B(2).Deslocamento, -8);
+    EXPECT_EQ(B(3).Topo, 52);
+
+    // Band 1: no top handle, and the lowest top is 8; its top never moves.
+    Selecionar(1, 1);
+    EXPECT_FALSE(AlcaHabilitada(s, 3));
+    EXPECT_FALSE(IniciarArrasteAlca(s, 3, QPointF(40, 16)));
+    EXPECT_EQ(AlcaEm(s, QPoint(40, 16)), -1);
+    EXPECT_EQ(AlcaEm(s, QPoint(40, 34)), 4);
+    EXPECT_EQ(Arrastar(s, 0, 0, -40), QRect(8, 8, 64, 26));
+    EXPECT_EQ(B(1).Altura, 26);
+    EXPECT_EQ(B(1).Topo, 16);
+    EXPECT_EQ(B(1).Deslocamento, 0);
+    EXPECT_EQ(DicaAlca(3), QStringLiteral("Deslocar a banda selecionada"));
+    for (int i : {4, 6, 7})
+        EXPECT_EQ(DicaAlca(i), QStringLiteral("Redimensionar o item - [Shift + Setas]"));
+    for (int i : {0, 1, 2, 5})
+        EXPECT_EQ(DicaAlca(i), QString());
+}
+
+TEST_F(Alcas, LimitesDoCanvasArredondadosAGrade)
+{
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    s.Canvas.Tamanho = QSize(205, 101);  // limits 197 and 93, on the grid 192 and 88
+    EXPECT_EQ(Arrastar(s, 7, 400, 400), QRect(8, 34, 184, 54));
+    EXPECT_EQ(I(2, 1).Largura, 184);
+    EXPECT_EQ(B(2).Altura, 54);
+    // The left-hand corner has no right limit to meet, only the bottom one.
+    Montar({{64, 64}, {64, 32}, {64}});
+    Selecionar(2, 1);
+    s.Canvas.Tamanho = QSize(205, 101);
+    EXPECT_EQ(Arrastar(s, 2, 0, 400), QRect(8, 34, 64, 54));
+}
+
+TEST_F(Alcas, FaixaCopiaALarguraEmVariasBandasOuDentroDeUma)
+{
+    Montar({{64, 64}, {64, 32}, {64}});
+    CliqueEShiftClique(10, 20, 80, 40);
+    ASSERT_TRUE(s.Faixa.VariasBandas());
+    Arrastar(s, 6, 16, 0);
+    for (int b : {1, 2})
+        for (const Item &it : B(b).Itens)
+            EXPECT_EQ(it.Largura, 80);
+    EXPECT_EQ(I(1, 2).Esquerda, 80);
+    EXPECT_EQ(I(2, 2).Esquerda, 80);
+    EXPECT_EQ(I(3, 1).Largura, 64);
+    Arrastar(s, 4, 0, 8);
+    EXPECT_EQ(B(1).Altura, 26);
+    EXPECT_EQ(B(2).Altura, 26);
+    EXPECT_EQ(B(3).Altura, 18);
+
+    Montar({{64, 64, 64, 64}, {64}});
+    CliqueEShiftClique(80, 20, 140, 20);
+    ASSERT_TRUE(s.Faixa.UmaBanda());
+    Arrastar(s, 6, 16, 0);
+    EXPECT_EQ(I(1, 1).Largura, 64);
+    EXPECT_EQ(I(1, 2).Largura, 80);
+    EXPECT_EQ(I(1, 3).Largura, 80);
+    EXPECT_EQ(I(1, 4).Largura, 64);
+    EXPECT_EQ(I(1, 4).Esquerda, 224);
+    Arrastar(s, 4, 0, 8);
+    EXPECT_EQ(B(1).Altura, 26);
+    EXPECT_EQ(B(2).Altura, 18);
+}
+
+TEST_F(Magico, OfertaSoSobreEspacoLivreComOsLimiaresDoFundoEDoFimDaBanda)
+{
+    Montar({{64}});  // band rows 16..33, item x 8..71, end of the band 64
+    s.UnidadeAtual = UnidadeDe(3);
+    MoverMagico(s, 80, 20, true);
+    EXPECT_FALSE(s.Magico.visivel);
+    MoverMagico(s, 81, 20, true);
+    ASSERT_TRUE(s.Magico.visivel);
+    EXPECT_EQ(s.Magico.banda, 1);
+    EXPECT_EQ(s.Magico.retangulo, QRect(72, 16, 24, 18));
+    EXPECT_EQ(s.Magico.legenda, QStringLiteral(" 24 x 18 px "));
+
+    for (QPoint p : {QPoint(100, 41), QPoint(16, 42), QPoint(30, 25)}) {
+        MoverMagico(s, p.x(), p.y(), true);
+        EXPECT_FALSE(s.Magico.visivel) << p.x() << "," << p.y();
+    }
+    // Nine pixels under the last band: a new band 18 high.
+    MoverMagico(s, 17, 42, true);
+    ASSERT_TRUE(s.Magico.visivel);
+    EXPECT_EQ(s.Magico.banda, 2);
+    EXPECT_EQ(s.Magico.retangulo, QRect(8, 34, 24, 18));
+    MoverMagico(s, 17, 50, true);
+    EXPECT_EQ(s.Magico.retangulo.height(), 18);
+    MoverMagico(s, 17, 51, true);
+    EXPECT_EQ(s.Magico.retangulo.height(), 26);
+
+    // The caption is in the current unit, truncated to its decimals.
+    s.UnidadeAtual = UnidadeDe(5);
+    MoverMagico(s, 17, 59, true);  // 24 x 34 pixels: 0.25 x 0.3541666 in
+    const QChar ponto = QLocale::system().decimalPoint().at(0);
+    EXPECT_EQ(s.Magico.legenda, QStringLiteral(" 0.25000 x 0.35416 pol ").replace(u'.', ponto));
+
+    // A held button or key, a range, or the toggle off hide it.
+    MoverMagico(s, 17, 59, false);
+    EXPECT_FALSE(s.Magico.visivel);
+    s.Config.MagicItem = false;
+    MoverMagico(s, 17, 59, true);
+    EXPECT_FALSE(s.Magico.visivel);
+    s.Config.MagicItem = true;
+    s.Faixa = {true, 1, 1, 1, 1};
+    MoverMagico(s, 17, 59, true);
+    EXPECT_FALSE(s.Magico.visivel);
+    EXPECT_EQ(pinturas, 0);
+}
+
+TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
+{
+    Montar({{64, 64}, {32}});
+    Selecionar(1, 1);
+    MoverMagico(s, 150, 40, true);  // right of band 2's item: ends at 32, x2 = 152
+    ASSERT_TRUE(s.Magico.visivel);
+    CliqueMagico(s);
+    EXPECT_FALSE(s.Magico.visivel);
+    EXPECT_EQ(s.BandaSelecionada, 2);
+    ASSERT_EQ(B(2).NumItens(), 2);
+    EXPECT_EQ(I(2, 2).Largura, 120);
+    EXPECT_EQ(I(2, 2).Esquerda, 32);
+    EXPECT_EQ(I(2, 2).Texto, QStringLiteral("Texto 2"));
+    EXPECT_EQ(pinturas, 1);
+
+    MoverMagico(s, 40, 90, true);  // last band ends at 51
+    ASSERT_TRUE(s.Magico.visivel);
+    EXPECT_EQ(s.Magico.retangulo, QRect(8, 52, 48, 42));
+    CliqueMagico(s);
+    ASSERT_EQ(s.Documento.NumBandas(), 3);
+    EXPECT_EQ(s.BandaSelecionada, 3);
+    EXPECT_EQ(B(3).Altura, 42);
+    ASSERT_EQ(B(3).NumItens(), 1);
+    EXPECT_EQ(I(3, 1).Largura, 48);
+    EXPECT_EQ(B(3).Topo, 52);
+    // Without a ghost a click does nothing.
+    CliqueMagico(s);
+    EXPECT_EQ(s.Documento.NumBandas(), 3);
+    EXPECT_EQ(pinturas, 2);
+}

@@ -1,0 +1,184 @@
+#include "editing/Teclado.h"
+#include "editing/Selecao.h"
+#include "editing/SessaoMontada.h"
+
+using namespace lumeta;
+using Teclado = lumeta::teste::SessaoMontada;
+
+namespace {
+
+bool Tecla(SessaoEdicao &s, int tecla, Qt::KeyboardModifiers m = Qt::NoModifier)
+{
+    return TeclaCanvas(s, tecla, m).consumida;
+}
+
+}  // namespace
+
+TEST_F(Teclado, ShiftRedimensionaDeOitoEmOitoEntreUmE9999)
+{
+    Montar({{8, 32}, {40}, {16}});
+    Selecionar(1, 1);
+    EXPECT_TRUE(Tecla(s, Qt::Key_Left, Qt::ShiftModifier));
+    EXPECT_EQ(I(1, 1).Largura, 1);
+    EXPECT_EQ(I(1, 2).Esquerda, 1);
+    Tecla(s, Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(I(1, 1).Largura, 1);
+    s.Documento.banda(1).Itens[0].Largura = 9995;
+    Tecla(s, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(I(1, 1).Largura, 9999);
+    Tecla(s, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(I(1, 1).Largura, 9999);
+
+    s.Documento.banda(1).Altura = 5;
+    Tecla(s, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(B(1).Altura, 1);
+    // An automatic band becomes fixed at its magnitude + 8.
+    s.Documento.banda(1).Altura = -40;
+    Tecla(s, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(B(1).Altura, 48);
+    s.Documento.banda(1).Altura = 9995;
+    Tecla(s, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(B(1).Altura, 9999);
+
+    // Nothing without an item, and only Shift alone resizes.
+    const int antes = pinturas;
+    Selecionar(1, 0);
+    EXPECT_TRUE(Tecla(s, Qt::Key_Right, Qt::ShiftModifier));
+    Selecionar(1, 1);
+    EXPECT_FALSE(Tecla(s, Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier));
+    EXPECT_FALSE(Tecla(s, Qt::Key_Right, Qt::ShiftModifier | Qt::AltModifier));
+    EXPECT_FALSE(Tecla(s, Qt::Key_Left, Qt::AltModifier));
+    EXPECT_FALSE(Tecla(s, Qt::Key_Left, Qt::ControlModifier | Qt::AltModifier));
+    EXPECT_EQ(pinturas, antes);
+    EXPECT_EQ(I(1, 1).Largura, 9999);
+}
+
+TEST_F(Teclado, ShiftComFaixaCopiaALarguraEAAltura)
+{
+    Montar({{64, 32}, {40}, {16}});
+    CliqueEShiftClique(10, 20, 10, 40);
+    ASSERT_TRUE(s.Faixa.VariasBandas());
+    Tecla(s, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(I(1, 1).Largura, 72);
+    EXPECT_EQ(I(1, 2).Largura, 72);
+    EXPECT_EQ(I(1, 2).Esquerda, 72);
+    EXPECT_EQ(I(2, 1).Largura, 72);
+    EXPECT_EQ(I(3, 1).Largura, 16);
+    Tecla(s, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(B(1).Altura, 26);
+    EXPECT_EQ(B(2).Altura, 26);
+    EXPECT_EQ(B(3).Altura, 18);
+    EXPECT_EQ(B(3).Topo, 16 + 26 + 26);
+
+    // Inside one band: its items from first to last.
+    Montar({{64, 32, 16, 8}});
+    CliqueEShiftClique(80, 20, 110, 20);
+    ASSERT_EQ(s.Faixa, (FaixaSelecao{true, 1, 1, 2, 3}));
+    Tecla(s, Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(Textos(1).size(), 4);
+    EXPECT_EQ(I(1, 1).Largura, 64);
+    EXPECT_EQ(I(1, 2).Largura, 24);
+    EXPECT_EQ(I(1, 3).Largura, 24);
+    EXPECT_EQ(I(1, 4).Largura, 8);
+    EXPECT_EQ(I(1, 4).Esquerda, 112);
+}
+
+TEST_F(Teclado, SetasNasPontasCtrlReordenaDeleteEMenosNumerico)
+{
+    Montar({{64, 32, 16}, {40}, {16, 16}});
+    Selecionar(1, 0);
+    Tecla(s, Qt::Key_Right);
+    EXPECT_EQ(s.ItemSelecionado, 1);
+    Tecla(s, Qt::Key_Left);
+    EXPECT_EQ(s.ItemSelecionado, 1);
+    Selecionar(1, 3);
+    Tecla(s, Qt::Key_Right);
+    EXPECT_EQ(s.ItemSelecionado, 3);
+    Tecla(s, Qt::Key_Up);
+    EXPECT_EQ(s.BandaSelecionada, 1);
+    Tecla(s, Qt::Key_Down);  // item 3 lowered to the one item of band 2
+    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(2, 1));
+    Selecionar(2, 0);
+    Tecla(s, Qt::Key_Down);
+    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(3, 1));
+    Tecla(s, Qt::Key_Down);
+    EXPECT_EQ(s.BandaSelecionada, 3);
+    EXPECT_EQ(pinturas, 0);
+
+    EXPECT_TRUE(Tecla(s, Qt::Key_Up, Qt::ControlModifier));
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "3.1", "2.1"}));
+    EXPECT_TRUE(Tecla(s, Qt::Key_Right, Qt::ControlModifier));
+    EXPECT_EQ(Textos(2), (QStringList{"3.2", "3.1"}));
+    EXPECT_EQ(s.ItemSelecionado, 2);
+
+    // Numeric-pad plus inserts, multiply appends; the main keyboard's do nothing.
+    EXPECT_TRUE(Tecla(s, Qt::Key_Plus, Qt::KeypadModifier));
+    EXPECT_EQ(Textos(2), (QStringList{"3.2", "Texto 3", "3.1"}));
+    EXPECT_TRUE(Tecla(s, Qt::Key_Asterisk, Qt::KeypadModifier));
+    EXPECT_EQ(Textos(2).last(), QStringLiteral("Texto 4"));
+    EXPECT_EQ(s.ItemSelecionado, 0);
+    const int antes = pinturas;
+    EXPECT_FALSE(Tecla(s, Qt::Key_Plus));
+    EXPECT_FALSE(Tecla(s, Qt::Key_Asterisk));
+    EXPECT_FALSE(Tecla(s, Qt::Key_Minus));
+    EXPECT_EQ(pinturas, antes);
+
+    // Delete or numeric-pad minus: the item, or the band without one.
+    Selecionar(2, 1);
+    EXPECT_TRUE(Tecla(s, Qt::Key_Delete));
+    EXPECT_EQ(Textos(2), (QStringList{"Texto 3", "3.1", "Texto 4"}));
+    EXPECT_TRUE(Tecla(s, Qt::Key_Minus, Qt::KeypadModifier));
+    EXPECT_EQ(Textos(2), (QStringList{"3.1", "Texto 4"}));
+    Selecionar(2, 0);
+    EXPECT_TRUE(Tecla(s, Qt::Key_Minus, Qt::KeypadModifier));
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1"}));
+    Selecionar(1, 0);
+    EXPECT_TRUE(Tecla(s, Qt::Key_Delete));
+    EXPECT_EQ(PrimeirosTextos(), QStringList{"2.1"});
+    EXPECT_TRUE(Tecla(s, Qt::Key_Delete));
+    EXPECT_EQ(s.Documento.NumBandas(), 1);
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível remover a última banda!"));
+}
+
+TEST_F(Teclado, RolagemAtalhosDasLinhasECaracteres)
+{
+    Montar({{64}});
+    EXPECT_EQ(TeclaCanvas(s, Qt::Key_PageDown, Qt::NoModifier).rolagem, AcaoRolagem::PaginaAbaixo);
+    EXPECT_EQ(TeclaCanvas(s, Qt::Key_PageUp, Qt::NoModifier).rolagem, AcaoRolagem::PaginaAcima);
+    EXPECT_EQ(TeclaCanvas(s, Qt::Key_Home, Qt::NoModifier).rolagem, AcaoRolagem::Inicio);
+    EXPECT_EQ(TeclaCanvas(s, Qt::Key_End, Qt::NoModifier).rolagem, AcaoRolagem::Fim);
+    EXPECT_EQ(TeclaCanvas(s, Qt::Key_End, Qt::ShiftModifier).rolagem, AcaoRolagem::Nenhuma);
+    EXPECT_EQ(NovaRolagem(0, 50, 200, AcaoRolagem::PaginaAcima), 0);
+    EXPECT_EQ(NovaRolagem(120, 50, 200, AcaoRolagem::PaginaAcima), 70);
+    EXPECT_EQ(NovaRolagem(180, 50, 200, AcaoRolagem::PaginaAbaixo), 200);
+    EXPECT_EQ(NovaRolagem(200, 50, 200, AcaoRolagem::PaginaAbaixo), 200);
+    EXPECT_EQ(NovaRolagem(120, 50, 200, AcaoRolagem::Inicio), 0);
+    EXPECT_EQ(NovaRolagem(120, 50, 200, AcaoRolagem::Fim), 200);
+
+    const int ctrl[10] = {0, 1, 4, 3, 6, 0, 2, 0, 5, 0};
+    for (int d = 0; d <= 9; ++d) {
+        EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_0 + d, Qt::ControlModifier), ctrl[d]) << d;
+        EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_0 + d, Qt::ControlModifier | Qt::KeypadModifier), ctrl[d]) << d;
+        EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_0 + d, Qt::AltModifier | Qt::KeypadModifier), d >= 1 && d <= 6 ? d : 0);
+        EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_0 + d, Qt::ControlModifier | Qt::AltModifier), 0);
+        EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_0 + d, Qt::NoModifier), 0);
+    }
+    EXPECT_EQ(BotaoLinhaDoAtalho(Qt::Key_A, Qt::AltModifier), 0);
+    EXPECT_EQ(DicaBotaoLinha(QStringLiteral("Linha"), 1), QStringLiteral("Linha ALT + 1 ou CTRL + 1 "));
+    EXPECT_EQ(DicaBotaoLinha(QStringLiteral("Linha"), 2), QStringLiteral("Linha ALT + 2 ou CTRL + 6 "));
+    EXPECT_EQ(DicaBotaoLinha(QStringLiteral("Linha"), 6), QStringLiteral("Linha ALT + 6 ou CTRL + 4 "));
+
+    // Typed characters go to the item's text; Escape deselects.
+    Selecionar(1, 0);
+    EXPECT_FALSE(CaractereCanvas(s, QStringLiteral("a")));
+    EXPECT_EQ(digitado, QString());
+    Selecionar(1, 1);
+    EXPECT_TRUE(CaractereCanvas(s, QStringLiteral("-")));
+    EXPECT_TRUE(CaractereCanvas(s, QStringLiteral("a")));
+    EXPECT_EQ(digitado, QStringLiteral("a"));
+    EXPECT_TRUE(CaractereCanvas(s, QString(QChar(27))));
+    EXPECT_EQ(s.ItemSelecionado, 0);
+    EXPECT_EQ(B(1).NumItens(), 1);
+    EXPECT_EQ(pinturas, 0);
+}

@@ -1,0 +1,282 @@
+#include "editing/ComandosTransferencia.h"
+#include "document/ArquivoLMT.h"
+#include "editing/ComandosBanda.h"
+#include "editing/Selecao.h"
+#include "editing/SessaoMontada.h"
+#include "editing/Teclado.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <random>
+#include <sys/stat.h>
+
+using namespace lumeta;
+using Transferencia = lumeta::teste::SessaoMontada;
+using lumeta::teste::GravarArquivoTeste;
+using lumeta::teste::LerArquivo;
+
+namespace {
+
+const QString Vazio = QStringLiteral("Os dados da área de transferência estão vazios!");
+const QString Invalido = QStringLiteral("Os dados da área de transferência são inválidos!");
+
+}  // namespace
+
+TEST(MarcadorTransferencia, TrintaEDoisBytesComAVersaoExata)
+{
+    EXPECT_EQ(MarcadorTransferencia(2, 6, 3480), QByteArray("LumetaEdit (2.0.6.3480) clpbrd\r\n"));
+    EXPECT_NE(MarcadorTransferencia(2, 6, 3481), MarcadorTransferencia(2, 6, 3480));
+    EXPECT_EQ(MarcadorTransferencia(2, 15, 7), QByteArray("LumetaEdit (2.1.5.7) clpbrd\r\n   "));
+    EXPECT_EQ(MarcadorTransferencia().size(), 32);
+}
+
+TEST_F(Transferencia, CopiarItensDoisETresEColarAntesDoItemUmDeOutraBanda)
+{
+    Montar({{64, 32, 16, 8}, {40, 24}});
+    CliqueEShiftClique(80, 20, 110, 20);
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    const QByteArray dados = LerArquivo(s.ArquivoTransferencia);
+    EXPECT_TRUE(dados.startsWith(MarcadorTransferencia()));
+    QList<Banda> lidas;
+    ASSERT_TRUE(LerBandas(dados, 32, lidas));
+    ASSERT_EQ(lidas.size(), 1);
+    EXPECT_EQ(lidas[0].Itens.size(), 2);
+
+    MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, false);  // (2, 1)
+    mnuEditarColarItem(s);
+    EXPECT_EQ(Textos(2), (QStringList{"1.2", "1.3", "2.1", "2.2"}));
+    EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 2, 2, 1, 2}));
+    EXPECT_EQ(s.ItemSelecionado, 3);
+    EXPECT_EQ(I(2, 3).Esquerda, 48);
+    // With no item selected they go to the end.
+    MouseDownCanvas(s, 400, 20, BotaoMouse::Esquerdo, false);
+    mnuEditarColarItem(s);
+    EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.2", "1.3", "1.4", "1.2", "1.3"}));
+    EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 1, 1, 5, 6}));
+    EXPECT_EQ(I(1, 5).Esquerda, 120);
+}
+
+TEST_F(Transferencia, ColarBandasNoFimDepoisDeCliqueAbaixoOuAntesDaSelecionada)
+{
+    Montar({{64}, {32}, {16}});
+    CliqueEShiftClique(10, 40, 10, 60);
+    ASSERT_TRUE(mnuEditarCopiar(s));  // bands 2 and 3, whole
+
+    MouseDownCanvas(s, 10, 300, BotaoMouse::Esquerdo, false);
+    mnuEditarColarBanda(s);
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1", "2.1", "3.1"}));
+    EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 4, 5, 1, 1}));
+
+    Montar({{64}, {32}, {16}});
+    s.Documento.BandaRodape = 3;
+    MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, false);  // band 2
+    mnuEditarColarBanda(s);
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1", "2.1", "3.1"}));
+    EXPECT_EQ(B(2).Itens[0].Largura, 32);
+    EXPECT_EQ(B(3).Itens[0].Largura, 16);
+    EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 2, 3, 1, 1}));
+    EXPECT_EQ(s.BandaSelecionada, 4);
+    EXPECT_EQ(s.Documento.BandaRodape, 5);
+    EXPECT_EQ(B(3).Topo, 52);
+}
+
+TEST_F(Transferencia, RecortarExcluirERecusaDeExcluirTodas)
+{
+    Montar({{64, 32, 16}, {40}});
+    mnuEditarTudo(s);
+    mnuEditarExcluir(s);
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível excluir todas as bandas!"));
+    EXPECT_EQ(s.Documento.NumBandas(), 2);
+    // A range holding every item of the only band is the whole band too.
+    Montar({{64, 32}});
+    CliqueEShiftClique(10, 20, 80, 20);
+    mnuEditarRecortar(s);
+    EXPECT_EQ(ui.mensagens.size(), 2);
+    EXPECT_EQ(B(1).NumItens(), 2);
+
+    Montar({{64, 32, 16}, {40}});
+    CliqueEShiftClique(80, 20, 110, 20);
+    mnuEditarRecortar(s);
+    EXPECT_EQ(Textos(1), QStringList{"1.1"});
+    EXPECT_FALSE(s.Faixa.visivel);
+    EXPECT_EQ(s.ItemSelecionado, 1);
+    mnuEditarColarItem(s);
+    EXPECT_EQ(Textos(1), (QStringList{"1.2", "1.3", "1.1"}));
+    // Cutting a range over whole bands removes them.
+    CliqueEShiftClique(10, 20, 10, 40);
+    s.Documento.Bandas.append(s.Documento.banda(2));
+    mnuEditarRecortar(s);
+    EXPECT_EQ(s.Documento.NumBandas(), 1);
+    EXPECT_EQ(s.ItemSelecionado, 0);
+    EXPECT_EQ(ui.mensagens.size(), 2);
+}
+
+TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada)
+{
+    Montar({{64, 32}, {40}});
+    Selecionar(1, 1);
+    const LayoutDocumento antes = s.Documento;
+    const auto recusado = [&](const QString &mensagem, const char *caso) {
+        ui.mensagens.clear();
+        mnuEditarColarBanda(s);
+        mnuEditarColarItem(s);
+        ASSERT_EQ(ui.mensagens.size(), 2) << caso;
+        for (const auto &m : ui.mensagens) {
+            EXPECT_EQ(m.texto, mensagem) << caso;
+            EXPECT_EQ(m.titulo, QStringLiteral("Colar")) << caso;
+        }
+        EXPECT_EQ(s.Documento, antes) << caso;
+        EXPECT_EQ(pinturas, 0) << caso;
+    };
+    recusado(Vazio, "ausente");
+
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    const QByteArray bom = LerArquivo(s.ArquivoTransferencia);
+    // Every truncation of a good file.
+    for (qsizetype n = 0; n < bom.size(); ++n) {
+        GravarArquivoTeste(s.ArquivoTransferencia, bom.left(n));
+        recusado(Invalido, "truncado");
+    }
+    // Another build's marker, a layout file, absurd counts, a band without items.
+    QByteArray outro = bom;
+    outro.replace(0, 32, MarcadorTransferencia(LUMETA_VERSAO_MAIOR, LUMETA_VERSAO_MENOR, LUMETA_VERSAO_REVISAO + 1));
+    GravarArquivoTeste(s.ArquivoTransferencia, outro);
+    recusado(Invalido, "outra versão");
+    GravarArquivoTeste(s.ArquivoTransferencia, GravarLMT(antes));
+    recusado(Invalido, "layout");
+    const QByteArray marcador = MarcadorTransferencia();
+    GravarArquivoTeste(s.ArquivoTransferencia, marcador + QByteArray("\xff\x7f", 2) + QByteArray(64, '\0'));
+    recusado(Invalido, "32767 bandas");
+    GravarArquivoTeste(s.ArquivoTransferencia, marcador + QByteArray("\xff\xff", 2));
+    recusado(Invalido, "-1 bandas");
+    GravarArquivoTeste(s.ArquivoTransferencia, marcador + QByteArray(2, '\0'));
+    recusado(Invalido, "nenhuma banda");
+    Banda semItens = antes.banda(1);
+    semItens.Itens.clear();
+    GravarArquivoTeste(s.ArquivoTransferencia, GravarBandas(marcador, {semItens}));
+    recusado(Invalido, "banda sem itens");
+
+    // Random bytes after a good marker and count, and random changes of a good file.
+    std::mt19937 gerador(1234);
+    for (int i = 0; i < 300; ++i) {
+        QByteArray d = bom;
+        if (i % 2) {
+            d.resize(34 + qsizetype(gerador() % 200));
+            for (qsizetype k = 34; k < d.size(); ++k)
+                d[k] = char(gerador());
+        } else {
+            for (int k = 0; k < 4; ++k)
+                d[34 + qsizetype(gerador() % (bom.size() - 34))] = char(gerador());
+        }
+        GravarArquivoTeste(s.ArquivoTransferencia, d);
+        ui.mensagens.clear();
+        s.Documento = antes;
+        Selecionar(1, 1);
+        if (auto bandas = LerAreaTransferencia(s)) {
+            EXPECT_TRUE(ui.mensagens.isEmpty());
+            for (const Banda &b : *bandas) {
+                EXPECT_GE(b.NumItens(), 1);
+                for (const Item &it : b.Itens) {
+                    EXPECT_EQ(it.Linhas.size(), 10);
+                    EXPECT_EQ(it.Atributos.size(), 10);
+                }
+            }
+        } else {
+            ASSERT_EQ(ui.mensagens.size(), 1);
+            EXPECT_EQ(ui.mensagens[0].texto, Invalido);
+        }
+    }
+
+    // Something that is not a regular file in its place: never read, never waited on.
+    s.Documento = antes;
+    ASSERT_TRUE(QFile::remove(s.ArquivoTransferencia));
+    ASSERT_EQ(mkfifo(QFile::encodeName(s.ArquivoTransferencia).constData(), 0600), 0);
+    recusado(Invalido, "fifo");
+    ASSERT_TRUE(QFile::remove(s.ArquivoTransferencia));
+    ASSERT_TRUE(QDir().mkpath(s.ArquivoTransferencia + QStringLiteral("/x")));
+    recusado(Invalido, "pasta");
+    // ... and copying over it cannot replace it.
+    ui.mensagens.clear();
+    EXPECT_FALSE(mnuEditarCopiar(s));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto,
+              s.ArquivoTransferencia + QStringLiteral("\n\nNão foi possível substituir o arquivo acima!"));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
+}
+
+TEST_F(Transferencia, ColarMedidasQueOLayoutNaoComportaERecusado)
+{
+    Montar({{64}});
+    Selecionar(1, 1);
+    const LayoutDocumento antes = s.Documento;
+    Banda boa = antes.banda(1);
+    boa.Deslocamento = -9999;
+    const auto colar = [&](const Banda &b) {
+        GravarArquivoTeste(s.ArquivoTransferencia, GravarBandas(MarcadorTransferencia(), {boa, b}));
+        ui.mensagens.clear();
+        s.Documento = antes;
+        mnuEditarColarBanda(s);
+        mnuEditarColarItem(s);
+        return ui.mensagens.size();
+    };
+    EXPECT_EQ(colar(boa), 0);
+    ASSERT_EQ(s.Documento.NumBandas(), 3);
+    EXPECT_EQ(s.Documento.banda(3).NumItens(), 3);  // the pasted bands went above it
+    const auto com = [&](const std::function<void(Banda &)> &f) {
+        Banda b = boa;
+        f(b);
+        return b;
+    };
+    const Banda absurdas[] = {
+        com([](Banda &b) { b.Itens[0].Largura = INT32_MAX; }),
+        com([](Banda &b) { b.Itens[0].Largura = -5; }),
+        com([](Banda &b) { b.Altura = INT32_MIN; }),
+        com([](Banda &b) { b.Deslocamento = INT32_MIN; }),
+        com([](Banda &b) { b.Itens = QList<Item>(200, b.Itens[0]); for (Item &it : b.Itens) it.Largura = 1 << 20; }),
+    };
+    for (const Banda &b : absurdas) {
+        EXPECT_EQ(colar(b), 2);
+        EXPECT_EQ(ui.mensagens[0].texto, Invalido);
+        EXPECT_EQ(s.Documento, antes);
+    }
+}
+
+TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
+{
+    Montar({{64}});
+    QList<LayoutDocumento> estados{s.Documento};
+    for (int i = 0; i < 15; ++i) {
+        Selecionar(1, 0);
+        if (i % 3 == 0)
+            mnuEditarBandaAdicionar(s);
+        else if (i % 3 == 1)
+            TeclaCanvas(s, Qt::Key_Asterisk, Qt::KeypadModifier);
+        else {
+            Selecionar(s.Documento.NumBandas(), 1);
+            mnuEditarCopiar(s);
+            mnuEditarColarItem(s);
+        }
+        estados << s.Documento;
+    }
+    // A range drawn over the present bands does not outlive them.
+    mnuEditarTudo(s);
+    int desfeitos = 0;
+    while (s.PodeDesfazer()) {
+        s.DesfazerEdicao();
+        ++desfeitos;
+        EXPECT_EQ(s.Documento.Bandas, estados[15 - desfeitos].Bandas) << desfeitos;
+        EXPECT_FALSE(s.Faixa.visivel);
+    }
+    EXPECT_EQ(desfeitos, 12);
+
+    // After fewer edits undo stops at the state the layout was built with.
+    Montar({{64}});
+    mnuEditarBandaAdicionar(s);
+    mnuEditarBandaAdicionar(s);
+    s.DesfazerEdicao();
+    s.DesfazerEdicao();
+    EXPECT_FALSE(s.PodeDesfazer());
+    EXPECT_EQ(s.Documento.NumBandas(), 1);
+}

@@ -29,6 +29,8 @@ struct FonteEscolhida {
     bool Italico = false;
     bool Sublinhado = false;
     bool Tachado = false;
+
+    bool operator==(const FonteEscolhida &) const = default;
 };
 
 class InterfaceUsuario {

@@ -4,6 +4,8 @@
 // cancelled dialog gives an empty path, -1 for a colour, or the font
 // unchanged.
 
+#include "document/InterfaceUsuario.h"
+
 #include <QColor>
 #include <QString>
 #include <QStringList>
@@ -12,16 +14,8 @@ class QWidget;
 
 namespace lumeta {
 
-struct FonteDialogo {
-    QString Nome;
-    double Tamanho = 10;
-    bool Negrito = false;
-    bool Italico = false;
-    bool Sublinhado = false;
-    bool Tachado = false;
-
-    bool operator==(const FonteDialogo &) const = default;
-};
+// The font the font dialog starts from and returns.
+using FonteDialogo = FonteEscolhida;
 
 class CommonDialogCls {
 public:

@@ -136,10 +136,10 @@ std::optional<QString> InterfaceUsuarioQt::Entrada(const QString &pergunta, cons
 
 std::optional<FonteEscolhida> InterfaceUsuarioQt::Fonte(const FonteEscolhida &inicial)
 {
-    FonteDialogo d{inicial.Nome, inicial.Tamanho, inicial.Negrito, inicial.Italico, inicial.Sublinhado, inicial.Tachado};
-    if (!CommonDialogCls::GetFont(d, m_dono))
+    FonteEscolhida f = inicial;
+    if (!CommonDialogCls::GetFont(f, m_dono))
         return std::nullopt;
-    return FonteEscolhida{d.Nome, d.Tamanho, d.Negrito, d.Italico, d.Sublinhado, d.Tachado};
+    return f;
 }
 
 }  // namespace lumeta

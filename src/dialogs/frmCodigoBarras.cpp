@@ -49,6 +49,7 @@ frmCodigoBarras::frmCodigoBarras(const ValoresCodigoBarras &valores, QWidget *pa
     picCodigoBarras = new QLabel(this);
     picCodigoBarras->setObjectName(QStringLiteral("picCodigoBarras"));
     picCodigoBarras->setToolTip(QStringLiteral("Exemplo"));
+    picCodigoBarras->setAccessibleName(picCodigoBarras->toolTip());
     picCodigoBarras->setFixedSize(LarguraPrevia, AlturaPrevia);
     picCodigoBarras->setAlignment(Qt::AlignCenter);
     picCodigoBarras->setFrameShape(QFrame::StyledPanel);
@@ -64,6 +65,12 @@ frmCodigoBarras::frmCodigoBarras(const ValoresCodigoBarras &valores, QWidget *pa
     lblInfo->setTextFormat(Qt::PlainText);
     lblInfo->setMinimumHeight(lblInfo->fontMetrics().lineSpacing() * 4);
 
+    // Hiding the info for the graph bar must not make the window jump.
+    for (QLabel *l : {lblTitInfo, lblInfo}) {
+        QSizePolicy sp = l->sizePolicy();
+        sp.setRetainSizeWhenHidden(true);
+        l->setSizePolicy(sp);
+    }
     auto *direita = new QVBoxLayout;
     direita->addWidget(picCodigoBarras);
     direita->addWidget(lblTitInfo);
@@ -76,6 +83,8 @@ frmCodigoBarras::frmCodigoBarras(const ValoresCodigoBarras &valores, QWidget *pa
 
     lblValor = new QLabel(QStringLiteral("Código de Barras:"), this);
     lblValor->setObjectName(QStringLiteral("lblValor"));
+    // Its caption changes with the type; the column keeps the wider one.
+    lblValor->setMinimumWidth(lblValor->fontMetrics().horizontalAdvance(QStringLiteral("Comando ou Variável:")));
     txtTexto = new QLineEdit(this);
     txtTexto->setObjectName(QStringLiteral("txtTexto"));
     lblValor->setBuddy(txtTexto);

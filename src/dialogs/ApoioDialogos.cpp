@@ -42,6 +42,14 @@ void EnterComoTab(QWidget *campo)
     campo->installEventFilter(new FiltroEnter(campo));
 }
 
+QFont FonteCodigo()
+{
+    QFont f(QStringLiteral("Courier New"), 10);
+    f.setStyleHint(QFont::TypeWriter);
+    f.setFixedPitch(true);
+    return f;
+}
+
 QRect ManterNaTela(const QRect &janela, const QRect &tela)
 {
     QRect r = janela;

@@ -2,6 +2,7 @@
 // Small behaviours every dialog of the editor shares: Enter moving on like
 // Tab in single-line fields, and a window placement kept in the settings.
 
+#include <QFont>
 #include <QRect>
 #include <QString>
 
@@ -12,6 +13,9 @@ namespace lumeta {
 // Enter (either key) in `campo` moves the focus to the next control instead of
 // pressing the dialog's default button.
 void EnterComoTab(QWidget *campo);
+
+// "Courier New" for the boxes that hold host-program code.
+QFont FonteCodigo();
 
 // `janela` moved (and, when larger than `tela`, shrunk) so that it lies
 // wholly inside `tela`.

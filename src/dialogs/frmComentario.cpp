@@ -22,14 +22,6 @@ namespace {
 const QString ChavePosicao = QStringLiteral("Comentário");
 // Keyboard moves of the caret change no text: the label follows them on a timer.
 constexpr int IntervaloLinhaColuna = 150;
-
-QFont fonteCodigo()
-{
-    QFont f(QStringLiteral("Courier New"), 10);
-    f.setStyleHint(QFont::TypeWriter);
-    f.setFixedPitch(true);
-    return f;
-}
 }  // namespace
 
 frmComentario::frmComentario(const QString &comentario, InterfaceUsuario *ui, QWidget *pai)
@@ -56,7 +48,7 @@ frmComentario::frmComentario(const QString &comentario, InterfaceUsuario *ui, QW
         auto *rotulo = new QLabel(titulos[i], this);
         txtComentario[i] = new QPlainTextEdit(this);
         txtComentario[i]->setObjectName(QStringLiteral("txtComentario(%1)").arg(i));
-        txtComentario[i]->setFont(fonteCodigo());
+        txtComentario[i]->setFont(FonteCodigo());
         txtComentario[i]->setLineWrapMode(QPlainTextEdit::NoWrap);
         txtComentario[i]->setTabChangesFocus(true);
         rotulo->setBuddy(txtComentario[i]);

@@ -64,10 +64,7 @@ frmLinguagens::frmLinguagens(Configuracoes &config, InterfaceUsuario *ui, QWidge
 
     txtLin = new QPlainTextEdit(this);
     txtLin->setObjectName(QStringLiteral("txtLin"));
-    QFont fonte(QStringLiteral("Courier New"), 10);
-    fonte.setStyleHint(QFont::TypeWriter);
-    fonte.setFixedPitch(true);
-    txtLin->setFont(fonte);
+    txtLin->setFont(FonteCodigo());
     txtLin->setLineWrapMode(QPlainTextEdit::NoWrap);
     txtLin->setTabChangesFocus(true);
     txtLin->setToolTip(QStringLiteral("Modelo do comando selecionado"));

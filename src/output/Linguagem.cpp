@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -282,6 +283,77 @@ bool NovaLin(const QString &nome, LinguagemDef &def, InterfaceUsuario *ui)
     def.EhCobol = NomeEhCobol(nome);
     def.CobolString = cobolString;
     return SalvarLin(nome, def, ui);
+}
+
+QString &ModeloDaOpcao(LinguagemDef &def, int indice)
+{
+    switch (indice) {
+    case 1: return def.ComandoF;
+    case 2: return def.ComandoL;
+    case 3: return def.ComandoT;
+    case 4: return def.ComandoRH;
+    case 5: return def.ComandosSimples;
+    case 6: return def.ChamadaViewer;
+    case 7: return def.ComentarioInicial;
+    default: return def.DefVariaveis;
+    }
+}
+
+QString LegendaOpcaoLinguagem(int indice)
+{
+    static const char *const legendas[NumOpcoesLinguagem] = {
+        "&Definição das variáveis", "Comando F - &Fontes", "Comando L - &Linhas", "Comando T - &Textos",
+        "Comando RH - &Row Height", "Comandos &Simples", "Chamada do &Lumeta", "Comentário inicial",
+    };
+    return indice >= 0 && indice < NumOpcoesLinguagem ? QString::fromUtf8(legendas[indice]) : QString();
+}
+
+bool AtualizarModelo(const QString &nome, LinguagemDef &def, int indice, const QString &texto, InterfaceUsuario *ui)
+{
+    // The editor shows line feeds; the file keeps the CR LF of the defaults.
+    QString novo = QString(texto).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    novo.replace(u'\n', QStringLiteral("\r\n"));
+    if (novo == ModeloDaOpcao(def, indice))
+        return false;
+    LinguagemDef alterada = def;
+    ModeloDaOpcao(alterada, indice) = novo;
+    if (!SalvarLin(nome, alterada, ui))
+        return false;
+    def = alterada;
+    return true;
+}
+
+std::optional<QString> AdicionarLinguagem(const QString &resposta, LinguagemDef &def, InterfaceUsuario *ui)
+{
+    if (resposta.isEmpty())
+        return std::nullopt;
+    const QString nome = LimparNomeLinguagem(resposta);
+    if (LinguagemExiste(nome)) {
+        if (ui)
+            ui->Mensagem(MensagemLinguagemExiste(nome), TituloNovaLinguagem, Icone::Informacao);
+        return std::nullopt;
+    }
+    if (!NovaLin(nome, def, ui))
+        return std::nullopt;
+    return nome;
+}
+
+QString PerguntaRemoverLinguagem(const QString &nome)
+{
+    return QStringLiteral("Confirma a exclusão da linguagem '") + nome + QStringLiteral("'?");
+}
+
+bool RemoverLinguagem(const QString &nome, InterfaceUsuario *ui)
+{
+    if (!ui || ui->Perguntar(PerguntaRemoverLinguagem(nome), TituloRemoverLinguagem, Botoes::SimNao, Icone::Pergunta)
+                   != Resposta::Sim)
+        return false;
+    QFile arquivo(CaminhoLinguagem(nome));
+    if (!arquivo.remove()) {
+        ui->Mensagem(arquivo.errorString(), TituloRemoverLinguagem, Icone::Critico);
+        return false;
+    }
+    return true;
 }
 
 QString MensagemLinguagemNaoEncontrada(const QString &caminho)

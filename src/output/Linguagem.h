@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 namespace lumeta {
 
@@ -84,6 +85,27 @@ bool LerLinguagem(const QString &nome, LinguagemDef &def, InterfaceUsuario *ui);
 bool SalvarLin(const QString &nome, const LinguagemDef &def, InterfaceUsuario *ui);
 // Fills `def` with the defaults of a new language and writes it.
 bool NovaLin(const QString &nome, LinguagemDef &def, InterfaceUsuario *ui);
+
+// The languages dialog's option `indice` (0..7: variables, F, L, T, RH,
+// simple commands, viewer call, opening comment) and its template.
+inline constexpr int NumOpcoesLinguagem = 8;
+QString &ModeloDaOpcao(LinguagemDef &def, int indice);
+QString LegendaOpcaoLinguagem(int indice);
+
+// Leaving the template editor: when `texto` (line feeds or CR LF) differs from
+// the option's template, the template takes it and the language is written at
+// once. True when the file was written; a failed write keeps the old file and
+// the old template.
+bool AtualizarModelo(const QString &nome, LinguagemDef &def, int indice, const QString &texto, InterfaceUsuario *ui);
+
+// "Nova Linguagem": the typed name cleaned; an empty answer does nothing, an
+// existing language is refused with its message. The name of the language
+// created (and now in `def`), or nothing.
+std::optional<QString> AdicionarLinguagem(const QString &resposta, LinguagemDef &def, InterfaceUsuario *ui);
+// "Excluir Linguagem": asks, and on yes deletes the file. True when deleted.
+bool RemoverLinguagem(const QString &nome, InterfaceUsuario *ui);
+QString PerguntaRemoverLinguagem(const QString &nome);
+inline const QString TituloRemoverLinguagem = QStringLiteral("Excluir Linguagem");
 
 QString MensagemLinguagemNaoEncontrada(const QString &caminho);
 QString MensagemLinguagemInvalida(const QString &caminho);

@@ -99,7 +99,7 @@ TEST(frmLumetaEdit, ArvoreDeMenusNomesLegendasEEstados)
         {"mnuEditarBanda", "&Banda", true},
         {"mnuEditarBandaAuto", "Alt&ura automática", true},
         {"mnuEditarBandaPagina", "&Quebrar a Página", false},
-        {"mnuEditarBandaComentario", "&Comentário e Programação", false},
+        {"mnuEditarBandaComentario", "&Comentário e Programação", true},
         {"mnuEditarItem", "&Item", true},
         {"mnuEditarItemAdicionar", "&Adicionar", true},
         {"mnuEditarItemRemover", "&Remover", false},   // no item selected yet
@@ -107,7 +107,7 @@ TEST(frmLumetaEdit, ArvoreDeMenusNomesLegendasEEstados)
         {"mnuEditarMacro", "Inserir &macro", false},
         {"mnuEditarMacroItem(0)", "Página atual", false},
         {"mnuEditarMacroItem(12)", "Variável de cabeçalho e rodapé", false},
-        {"mnuEditarLinguagens", "&Linguagens...", false},
+        {"mnuEditarLinguagens", "&Linguagens...", true},
         {"mnuEditarVisualizar", "&Visualizar", false},
         {"mnuConfigPaisagem", "Imprimir no modo &Paisagem", true},
         {"mnuConfigImprimir", "&Imprimir sem Visualizar", true},

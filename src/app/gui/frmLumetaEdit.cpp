@@ -6,6 +6,7 @@
 #include "controls/ui/CommonDialogCls.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
+#include "dialogs/LigacaoDialogos.h"
 #include "document/ModuloLumetaEdit.h"
 #include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
@@ -113,6 +114,7 @@ frmLumetaEdit::frmLumetaEdit(InterfaceUsuario *ui, QWidget *pai)
     criarMenus();
     criarJanela();
     ligarSessao();
+    LigarDialogosEditar(*this);
     atualizarTitulo();
     resize(1120, 720);
 }
@@ -791,6 +793,7 @@ void frmLumetaEdit::prepararMenuEditar()
     Acao(QStringLiteral("mnuEditarItemTexto"))->setEnabled(e.tipoTexto);
     Acao(QStringLiteral("mnuEditarItemFigura"))->setEnabled(e.tipoFigura);
     Acao(QStringLiteral("mnuEditarItemComando"))->setEnabled(e.tipoComando);
+    Acao(QStringLiteral("mnuEditarItemCodigoBarras"))->setEnabled(e.tipoCodigoBarras);
     QAction *pagina = Acao(QStringLiteral("mnuEditarBandaPagina"));
     pagina->setEnabled(e.bandaPagina);
     pagina->setText(e.legendaBandaPagina);

@@ -1,0 +1,55 @@
+#include "dialogs/Dialogo.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace lumeta {
+
+EnterComoTab::EnterComoTab(QDialog *dialogo) : QObject(dialogo), m_dialogo(dialogo)
+{
+    // The filter must see the key before the dialog's default button does.
+    qApp->installEventFilter(this);
+}
+
+bool EnterComoTab::eventFilter(QObject *obj, QEvent *e)
+{
+    if (e->type() != QEvent::KeyPress)
+        return false;
+    auto *campo = qobject_cast<QLineEdit *>(obj);
+    if (!campo || campo->window() != m_dialogo)
+        return false;
+    const int tecla = static_cast<QKeyEvent *>(e)->key();
+    if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter)
+        return false;
+    // A spin box's line edit is not itself in the focus chain; its owner is.
+    QWidget *dono = campo;
+    if (campo->parentWidget() && campo->parentWidget()->focusProxy() == campo)
+        dono = campo->parentWidget();
+    QWidget *proximo = dono->nextInFocusChain();
+    while (proximo && proximo != dono && !(proximo->isVisible() && proximo->isEnabled()
+                                           && (proximo->focusPolicy() & Qt::TabFocus)))
+        proximo = proximo->nextInFocusChain();
+    if (proximo)
+        proximo->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+QPushButton *CriarBotao(QWidget *pai, const char *nome, const QString &legenda)
+{
+    auto *b = new QPushButton(legenda, pai);
+    b->setObjectName(QString::fromLatin1(nome));
+    return b;
+}
+
+QLabel *CriarRotulo(QWidget *pai, const char *nome, const QString &legenda, QWidget *campo)
+{
+    auto *l = new QLabel(legenda, pai);
+    l->setObjectName(QString::fromLatin1(nome));
+    l->setBuddy(campo);
+    return l;
+}
+
+}  // namespace lumeta

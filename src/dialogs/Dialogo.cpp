@@ -41,6 +41,10 @@ QPushButton *CriarBotao(QWidget *pai, const char *nome, const QString &legenda)
 {
     auto *b = new QPushButton(legenda, pai);
     b->setObjectName(QString::fromLatin1(nome));
+    // OK is every dialog's default button: Enter reaches it from a focused
+    // button only, fields keep their own Enter.
+    if (qstrcmp(nome, "btnOk") == 0)
+        b->setDefault(true);
     return b;
 }
 

@@ -43,6 +43,7 @@ frmEstilo::frmEstilo(const QString &texto, QWidget *pai) : QDialog(pai)
         b->setObjectName(QStringLiteral("btnEstilo(%1)").arg(k));
         b->setToolTip(QString::fromUtf8(Legendas[k].dica));
         b->setCheckable(true);
+        b->setAutoDefault(false);
         QFont f = b->font();
         f.setBold(k == 0);
         f.setItalic(k == 1);

@@ -1,6 +1,7 @@
 #include "dialogs/Dialogo.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,6 +47,19 @@ QPushButton *CriarBotao(QWidget *pai, const char *nome, const QString &legenda)
     if (qstrcmp(nome, "btnOk") == 0)
         b->setDefault(true);
     return b;
+}
+
+QHBoxLayout *BotoesOkCancelar(QDialog *dialogo, const std::function<void()> &ok)
+{
+    QPushButton *btnOk = CriarBotao(dialogo, "btnOk", QStringLiteral("&Ok"));
+    QPushButton *btnCancelar = CriarBotao(dialogo, "btnCancelar", QStringLiteral("&Cancelar"));
+    QObject::connect(btnOk, &QPushButton::clicked, dialogo, ok);
+    QObject::connect(btnCancelar, &QPushButton::clicked, dialogo, &QDialog::reject);
+    auto *botoes = new QHBoxLayout;
+    botoes->addStretch(1);
+    botoes->addWidget(btnOk);
+    botoes->addWidget(btnCancelar);
+    return botoes;
 }
 
 QLabel *CriarRotulo(QWidget *pai, const char *nome, const QString &legenda, QWidget *campo)

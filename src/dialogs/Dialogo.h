@@ -5,7 +5,9 @@
 
 #include <QDialog>
 #include <QObject>
+#include <functional>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -25,6 +27,9 @@ private:
 };
 
 QPushButton *CriarBotao(QWidget *pai, const char *nome, const QString &legenda);
+// The row of `btnOk` ("&Ok", running `ok`) and `btnCancelar` ("&Cancelar",
+// rejecting the dialog), at the right.
+QHBoxLayout *BotoesOkCancelar(QDialog *dialogo, const std::function<void()> &ok);
 QLabel *CriarRotulo(QWidget *pai, const char *nome, const QString &legenda, QWidget *campo);
 
 }  // namespace lumeta

@@ -56,17 +56,10 @@ frmEstilo::frmEstilo(const QString &texto, QWidget *pai) : QDialog(pai)
     }
     estilos->addStretch(1);
 
-    QPushButton *btnOk = CriarBotao(this, "btnOk", QStringLiteral("&Ok"));
-    QPushButton *btnCancelar = CriarBotao(this, "btnCancelar", QStringLiteral("&Cancelar"));
-    connect(btnOk, &QPushButton::clicked, this, [this] {
+    QHBoxLayout *botoes = BotoesOkCancelar(this, [this] {
         m_texto = TextoDoEstilo(txtEstilo->toPlainText());
         accept();
     });
-    connect(btnCancelar, &QPushButton::clicked, this, &QDialog::reject);
-    auto *botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    botoes->addWidget(btnOk);
-    botoes->addWidget(btnCancelar);
 
     auto *grade = new QVBoxLayout(this);
     grade->addLayout(estilos);

@@ -76,20 +76,13 @@ frmMargens::frmMargens(const QString &superior, const QString &esquerda, const Q
         *m.txt = txt;
     }
 
-    QPushButton *btnOk = CriarBotao(this, "btnOk", QStringLiteral("&Ok"));
-    QPushButton *btnCancelar = CriarBotao(this, "btnCancelar", QStringLiteral("&Cancelar"));
-    connect(btnOk, &QPushButton::clicked, this, [this] {
+    QHBoxLayout *botoes = BotoesOkCancelar(this, [this] {
         const QLineEdit *nums[3] = {numSuperior, numEsquerda, numInferior};
         const QLineEdit *txts[3] = {txtSuperior, txtEsquerda, txtInferior};
         for (int k = 0; k < 3; ++k)
             m_margens[k] = GravarMargem(lerMilimetros(nums[k]->text()), txts[k]->text());
         accept();
     });
-    connect(btnCancelar, &QPushButton::clicked, this, &QDialog::reject);
-    auto *botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    botoes->addWidget(btnOk);
-    botoes->addWidget(btnCancelar);
     grade->addLayout(botoes);
     setMinimumWidth(380);
     numSuperior->setFocus();

@@ -52,18 +52,10 @@ frmNomeImpressora::frmNomeImpressora(const QString &valor, const QStringList &im
     });
     connect(lstImpressoras, &QListWidget::itemDoubleClicked, this, &frmNomeImpressora::confirmar);
 
-    QPushButton *btnOk = CriarBotao(this, "btnOk", QStringLiteral("&Ok"));
-    QPushButton *btnCancelar = CriarBotao(this, "btnCancelar", QStringLiteral("&Cancelar"));
-    connect(btnOk, &QPushButton::clicked, this, &frmNomeImpressora::confirmar);
-    connect(btnCancelar, &QPushButton::clicked, this, &QDialog::reject);
-
+    QHBoxLayout *botoes = BotoesOkCancelar(this, [this] { confirmar(); });
     auto *linha = new QHBoxLayout;
     linha->addWidget(rotulo);
     linha->addWidget(txtImpressora, 1);
-    auto *botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    botoes->addWidget(btnOk);
-    botoes->addWidget(btnCancelar);
     auto *grade = new QVBoxLayout(this);
     grade->addWidget(lstImpressoras, 1);
     grade->addLayout(linha);

@@ -31,22 +31,15 @@ frmQualidadeJPG::frmQualidadeJPG(int16_t qualidade, QWidget *pai) : QDialog(pai)
             numQualidadeJPG->setText(limitado);
     });
 
-    QPushButton *btnOk = CriarBotao(this, "btnOk", QStringLiteral("&Ok"));
-    QPushButton *btnCancelar = CriarBotao(this, "btnCancelar", QStringLiteral("&Cancelar"));
-    connect(btnOk, &QPushButton::clicked, this, [this] {
+    QHBoxLayout *botoes = BotoesOkCancelar(this, [this] {
         m_qualidade = LimitarQualidadeJPG(numQualidadeJPG->text().toLongLong());
         accept();
     });
-    connect(btnCancelar, &QPushButton::clicked, this, &QDialog::reject);
 
     auto *linha = new QHBoxLayout;
     linha->addWidget(rotulo);
     linha->addWidget(numQualidadeJPG);
     linha->addStretch(1);
-    auto *botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    botoes->addWidget(btnOk);
-    botoes->addWidget(btnCancelar);
     auto *grade = new QVBoxLayout(this);
     grade->addLayout(linha);
     grade->addLayout(botoes);

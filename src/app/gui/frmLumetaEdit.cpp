@@ -7,10 +7,16 @@
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
 #include "dialogs/LigacaoDialogos.h"
+#include "dialogs/frmEstilo.h"
+#include "dialogs/frmMargens.h"
+#include "dialogs/frmNomeImpressora.h"
+#include "dialogs/frmQualidadeJPG.h"
+#include "dialogs/frmTextoEmail.h"
 #include "document/ModuloLumetaEdit.h"
 #include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
 #include "editing/ComandosItem.h"
+#include "editing/ComandosOpcoes.h"
 #include "editing/ComandosTransferencia.h"
 #include "editing/Selecao.h"
 #include "editing/Teclado.h"
@@ -158,6 +164,26 @@ void frmLumetaEdit::criarMenus()
     criarMenuEditar();
     criarMenuConfig();
     criarMenuAjuda();
+    ligarDialogos();
+}
+
+// The entries that open the small dialogs and the preview.
+void frmLumetaEdit::ligarDialogos()
+{
+    auto ligar = [this](const char *nome, bool (*comando)(SessaoEdicao &, QWidget *)) {
+        QAction *a = Acao(QString::fromLatin1(nome));
+        a->setEnabled(true);
+        connect(a, &QAction::triggered, this, [this, comando] {
+            comando(m_sessao, this);
+            atualizarOpcoes();
+        });
+    };
+    ligar("mnuEditarItemEstilo", mnuEditarItemEstilo);
+    ligar("mnuConfigEmailTexto", mnuConfigEmailTexto);
+    ligar("mnuConfigQualidadeJPG", mnuConfigQualidadeJPG);
+    ligar("mnuConfigNomeImpressora", mnuConfigNomeImpressora);
+    ligar("mnuConfigMargens", mnuConfigMargens);
+    ligar("mnuEditarVisualizar", [](SessaoEdicao &s, QWidget *) { return mnuEditarVisualizar(s); });
 }
 
 void frmLumetaEdit::criarMenuArquivo()
@@ -271,7 +297,8 @@ void frmLumetaEdit::criarMenuEditar()
             [](SessaoEdicao &s) { DefinirTipoItem(s, TipoFigura); });
     comando(itemMenu, "mnuEditarItemComando", QStringLiteral("Mudar para C&omando"),
             [](SessaoEdicao &s) { DefinirTipoItem(s, TipoComando); });
-    // The barcode and style dialogs come with their own windows.
+    // The barcode dialog comes with its own window; the style entry is
+    // wired by ligarDialogos.
     item(itemMenu, QStringLiteral("mnuEditarItemCodigoBarras"), QStringLiteral("Mudar para Código de &Barras"), false);
     itemMenu->addSeparator();
     item(itemMenu, QStringLiteral("mnuEditarItemEstilo"), QStringLiteral("E&stilo"), false);
@@ -353,8 +380,8 @@ void frmLumetaEdit::criarMenuConfig()
         });
     }
     email->addSeparator();
-    // The e-mail text, JPG quality, printer and margins dialogs come with
-    // their own parts of the editor.
+    // The e-mail text, JPG quality, printer and margins entries are wired
+    // to their dialogs by ligarDialogos.
     item(email, QStringLiteral("mnuConfigEmailTexto"), QStringLiteral("Texto &do e-mail"), false);
     item(mnuConfig, QStringLiteral("mnuConfigQualidadeJPG"), QStringLiteral("Qualidade do &JPG no e-mail"), false);
     item(mnuConfig, QStringLiteral("mnuConfigNomeImpressora"), QStringLiteral("&Nome da impressora"), false);

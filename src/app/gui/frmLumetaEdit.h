@@ -93,6 +93,7 @@ private:
     void criarMenuEditar();
     void criarMenuConfig();
     void criarMenuAjuda();
+    void ligarDialogos();
     void criarJanela();
     void ligarSessao();
 

@@ -1,0 +1,360 @@
+#include "dialogs/frmEstilo.h"
+#include "dialogs/frmMargens.h"
+#include "dialogs/frmNomeImpressora.h"
+#include "dialogs/frmQualidadeJPG.h"
+#include "dialogs/frmTextoEmail.h"
+#include "editing/SessaoEdicao.h"
+#include "output/Visualizacao.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+struct Sessao {
+    teste::ConfigTemporaria cfg;
+    teste::InterfaceRoteirizada ui;
+    SessaoEdicao s;
+    Sessao() { s.Ui = &ui; }
+};
+
+// Runs `acao` on the modal dialog as soon as it is shown; the command that
+// opened it returns when the action has closed it.
+void QuandoAbrir(std::function<void(QWidget *)> acao)
+{
+    auto *timer = new QTimer;
+    timer->setInterval(5);
+    QObject::connect(timer, &QTimer::timeout, [timer, acao] {
+        QWidget *w = QApplication::activeModalWidget();
+        if (!w || !w->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        acao(w);
+    });
+    timer->start();
+}
+
+template <class T>
+T *filho(QWidget *w, const char *nome)
+{
+    T *c = w->findChild<T *>(QString::fromLatin1(nome));
+    EXPECT_NE(c, nullptr) << nome;
+    return c;
+}
+
+void clicar(QWidget *w, const char *botao) { QTest::mouseClick(filho<QPushButton>(w, botao), Qt::LeftButton); }
+
+void digitar(QLineEdit *campo, const QString &texto)
+{
+    campo->setFocus();
+    campo->selectAll();
+    QTest::keyClick(campo, Qt::Key_Delete);
+    QTest::keyClicks(campo, texto);
+}
+
+}  // namespace
+
+TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
+{
+    Sessao t;
+    LayoutDocumento &d = t.s.Documento;
+    d.MargemSuperior = QStringLiteral("MARGEM-SUP");
+    d.MargemEsquerda = QStringLiteral("\"12.5\"");
+    QuandoAbrir([](QWidget *w) {
+        auto *numSup = filho<QLineEdit>(w, "numSuperior");
+        EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QStringLiteral("MARGEM-SUP"));
+        EXPECT_EQ(numSup->text(), QString());
+        EXPECT_EQ(filho<QLineEdit>(w, "numEsquerda")->text(), QStringLiteral("12.5"));
+        EXPECT_EQ(filho<QLineEdit>(w, "txtEsquerda")->text(), QString());
+        // Enter moves on as Tab and is swallowed.
+        numSup->setFocus();
+        QTest::keyClick(numSup, Qt::Key_Return);
+        EXPECT_EQ(QApplication::focusWidget(), filho<QLineEdit>(w, "txtSuperior"));
+        EXPECT_TRUE(w->isVisible());
+        // A comma is a decimal separator too.
+        digitar(filho<QLineEdit>(w, "numInferior"), QStringLiteral("7,5"));
+        clicar(w, "btnOk");
+    });
+    ASSERT_TRUE(mnuConfigMargens(t.s, nullptr));
+    EXPECT_EQ(d.MargemSuperior, QStringLiteral("MARGEM-SUP"));
+    EXPECT_EQ(d.MargemEsquerda, QStringLiteral("\"12.5\""));
+    EXPECT_EQ(d.MargemInferior, QStringLiteral("\"7.5\""));
+    EXPECT_TRUE(t.s.Alterado);
+    EXPECT_TRUE(t.s.TextoResultado.startsWith(QStringLiteral("MS MARGEM-SUP\r\nME 013\r\nMI 008\r\n")))
+        << t.s.TextoResultado.toStdString();
+
+    t.s.Alterado = false;
+    QuandoAbrir([](QWidget *w) {
+        // Typing a name empties the number of the same margin, and a number the name.
+        digitar(filho<QLineEdit>(w, "txtEsquerda"), QStringLiteral("VAR-ESQ"));
+        EXPECT_EQ(filho<QLineEdit>(w, "numEsquerda")->text(), QString());
+        digitar(filho<QLineEdit>(w, "numSuperior"), QStringLiteral("3"));
+        EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QString());
+        clicar(w, "btnCancelar");
+    });
+    EXPECT_FALSE(mnuConfigMargens(t.s, nullptr));
+    EXPECT_EQ(d.MargemSuperior, QStringLiteral("MARGEM-SUP"));
+    EXPECT_EQ(d.MargemEsquerda, QStringLiteral("\"12.5\""));
+    EXPECT_FALSE(t.s.Alterado);
+}
+
+TEST(frmNomeImpressora, TypedNamesSelectTheirEntryAndAreStoredAsTyped)
+{
+    Sessao t;
+    const auto anterior = ImpressorasInstaladas;
+    ImpressorasInstaladas = [] { return QStringList{QStringLiteral("HP LaserJet 1020"), QStringLiteral("PDF Virtual")}; };
+    t.s.Documento.NomeImpressora = QStringLiteral("Antiga");
+    QuandoAbrir([](QWidget *w) {
+        auto *lista = filho<QListWidget>(w, "lstImpressoras");
+        auto *txt = filho<QLineEdit>(w, "txtImpressora");
+        ASSERT_EQ(lista->count(), 4);
+        EXPECT_EQ(lista->item(0)->text(), QStringLiteral("<< Padrão do Windows >>"));
+        EXPECT_EQ(lista->item(1)->text(), QStringLiteral("<< O usuário seleciona >>"));
+        // A printer that is not installed: only the text box.
+        EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
+        EXPECT_TRUE(lista->selectedItems().isEmpty());
+        digitar(txt, QStringLiteral("pdf virtual"));
+        EXPECT_EQ(lista->currentRow(), 3);
+        EXPECT_EQ(lista->selectedItems().size(), 1);
+        EXPECT_EQ(txt->text(), QStringLiteral("pdf virtual"));
+        clicar(w, "btnOk");
+    });
+    EXPECT_TRUE(mnuConfigNomeImpressora(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.NomeImpressora, QStringLiteral("pdf virtual"));
+    EXPECT_TRUE(t.s.TextoResultado.startsWith(QStringLiteral("I pdf virtual\r\n")));
+
+    QuandoAbrir([](QWidget *w) {
+        digitar(filho<QLineEdit>(w, "txtImpressora"), QStringLiteral("<< O USUÁRIO SELECIONA >>"));
+        EXPECT_EQ(filho<QListWidget>(w, "lstImpressoras")->currentRow(), 1);
+        clicar(w, "btnOk");
+    });
+    mnuConfigNomeImpressora(t.s, nullptr);
+    EXPECT_EQ(t.s.Documento.NomeImpressora, QStringLiteral("<?>"));
+
+    // Cancel keeps the value; the document is still marked changed.
+    t.s.Alterado = false;
+    QuandoAbrir([](QWidget *w) {
+        EXPECT_EQ(filho<QListWidget>(w, "lstImpressoras")->currentRow(), 1);
+        digitar(filho<QLineEdit>(w, "txtImpressora"), QStringLiteral("Outra"));
+        clicar(w, "btnCancelar");
+    });
+    EXPECT_FALSE(mnuConfigNomeImpressora(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.NomeImpressora, QStringLiteral("<?>"));
+    EXPECT_TRUE(t.s.Alterado);
+
+    // A click on the first entry fills the box; OK stores the default printer.
+    QuandoAbrir([](QWidget *w) {
+        auto *lista = filho<QListWidget>(w, "lstImpressoras");
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
+        EXPECT_EQ(filho<QLineEdit>(w, "txtImpressora")->text(), QStringLiteral("<< Padrão do Windows >>"));
+        clicar(w, "btnOk");
+    });
+    mnuConfigNomeImpressora(t.s, nullptr);
+    EXPECT_EQ(t.s.Documento.NomeImpressora, QString());
+    EXPECT_FALSE(t.s.TextoResultado.contains(QStringLiteral("I ")));
+    ImpressorasInstaladas = anterior;
+}
+
+TEST(frmQualidadeJPG, TypedValuesAreClampedAndTheSessionKeepsTheChoice)
+{
+    Sessao t;
+    QuandoAbrir([](QWidget *w) {
+        auto *num = filho<QLineEdit>(w, "numQualidadeJPG");
+        EXPECT_EQ(num->text(), QStringLiteral("92"));
+        digitar(num, QStringLiteral("0"));
+        EXPECT_EQ(num->text(), QStringLiteral("1"));
+        digitar(num, QStringLiteral("150"));
+        EXPECT_EQ(num->text(), QStringLiteral("100"));
+        digitar(num, QStringLiteral("75"));
+        QTest::keyClick(num, Qt::Key_Enter);
+        EXPECT_EQ(QApplication::focusWidget(), filho<QPushButton>(w, "btnOk"));
+        clicar(w, "btnOk");
+    });
+    EXPECT_TRUE(mnuConfigQualidadeJPG(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.QualidadeJPG, 75);
+    EXPECT_EQ(t.s.QualidadeJPGSessao, 75);
+    EXPECT_TRUE(t.s.TextoResultado.startsWith(QStringLiteral("QJ 75\r\n"))) << t.s.TextoResultado.toStdString();
+    // The PDF type takes the session's quality.
+    t.s.DefinirTipoEmail(4);
+    EXPECT_EQ(t.s.Documento.QualidadeJPG, 75);
+
+    t.s.Alterado = false;
+    QuandoAbrir([](QWidget *w) {
+        digitar(filho<QLineEdit>(w, "numQualidadeJPG"), QStringLiteral("20"));
+        clicar(w, "btnCancelar");
+    });
+    EXPECT_FALSE(mnuConfigQualidadeJPG(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.QualidadeJPG, 75);
+    EXPECT_TRUE(t.s.Alterado);
+}
+
+TEST(frmTextoEmail, LineBreaksBecomeMarkersAndClearRemovesTheLine)
+{
+    Sessao t;
+    t.s.Documento.TextoEmail = QStringLiteral("Prezado{ENTER}segue{enter}anexo");
+    QuandoAbrir([](QWidget *w) {
+        auto *txt = filho<QPlainTextEdit>(w, "txtTexto");
+        EXPECT_EQ(txt->toPlainText(), QStringLiteral("Prezado\nsegue{enter}anexo"));
+        EXPECT_EQ(txt->font().family(), QStringLiteral("Times New Roman"));
+        txt->moveCursor(QTextCursor::End);
+        // Enter in the box is a new line, not OK.
+        QTest::keyClick(txt, Qt::Key_Return);
+        QTest::keyClicks(txt, QStringLiteral("Att."));
+        EXPECT_TRUE(w->isVisible());
+        clicar(w, "btnOk");
+    });
+    EXPECT_TRUE(mnuConfigEmailTexto(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.TextoEmail, QStringLiteral("Prezado{ENTER}segue{enter}anexo{ENTER}Att."));
+    EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("\r\nET Prezado{ENTER}segue{enter}anexo{ENTER}Att.\r\n")));
+    EXPECT_TRUE(t.s.Alterado);
+
+    // The standard text, then Cancel: nothing changes.
+    t.s.Alterado = false;
+    QuandoAbrir([](QWidget *w) {
+        clicar(w, "btnPadrao");
+        EXPECT_TRUE(w->isVisible());
+        EXPECT_EQ(filho<QPlainTextEdit>(w, "txtTexto")->toPlainText(), TextoEmailPadrao());
+        clicar(w, "btnCancelar");
+    });
+    EXPECT_FALSE(mnuConfigEmailTexto(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.TextoEmail, QStringLiteral("Prezado{ENTER}segue{enter}anexo{ENTER}Att."));
+    EXPECT_FALSE(t.s.Alterado);
+
+    QuandoAbrir([](QWidget *w) { clicar(w, "btnLimpar"); });
+    EXPECT_TRUE(mnuConfigEmailTexto(t.s, nullptr));
+    EXPECT_EQ(t.s.Documento.TextoEmail, QString());
+    EXPECT_FALSE(t.s.TextoResultado.contains(QStringLiteral("ET ")));
+}
+
+TEST(frmEstilo, ButtonsTagWholeWordsFollowTheCaretAndCancelKeepsTheText)
+{
+    Sessao t;
+    t.s.ItemSelecionado = 1;
+    Item &item = t.s.Documento.banda(1).Itens[0];
+    item.Texto = QStringLiteral("Total geral");
+    QuandoAbrir([](QWidget *w) {
+        auto *txt = filho<QPlainTextEdit>(w, "txtEstilo");
+        auto *negrito = filho<QPushButton>(w, "btnEstilo(0)");
+        QTextCursor c = txt->textCursor();
+        c.setPosition(1);
+        c.setPosition(4, QTextCursor::KeepAnchor);  // "ota"
+        txt->setTextCursor(c);
+        EXPECT_FALSE(negrito->isChecked());
+        QTest::mouseClick(negrito, Qt::LeftButton);
+        EXPECT_EQ(txt->toPlainText(), QStringLiteral("{n}Total{/n} geral"));
+        EXPECT_TRUE(negrito->isChecked());
+        // The caret alone inside "Total": the button shows pressed, a click removes both tags.
+        c = txt->textCursor();
+        c.setPosition(5);
+        txt->setTextCursor(c);
+        EXPECT_TRUE(negrito->isChecked());
+        QTest::mouseClick(negrito, Qt::LeftButton);
+        EXPECT_EQ(txt->toPlainText(), QStringLiteral("Total geral"));
+        EXPECT_FALSE(negrito->isChecked());
+        // Italic on the last word; a new line and a tab in the box.
+        txt->moveCursor(QTextCursor::End);
+        QTest::mouseClick(filho<QPushButton>(w, "btnEstilo(1)"), Qt::LeftButton);
+        txt->moveCursor(QTextCursor::End);
+        QTest::keyClick(txt, Qt::Key_Return);
+        QTest::keyClick(txt, Qt::Key_Tab);
+        QTest::keyClicks(txt, QStringLiteral("fim"));
+        EXPECT_TRUE(w->isVisible());
+        clicar(w, "btnOk");
+    });
+    EXPECT_TRUE(mnuEditarItemEstilo(t.s, nullptr));
+    EXPECT_EQ(item.Texto, QStringLiteral("Total {i}geral{/i}{e}        fim"));
+    EXPECT_EQ(item.Atributos[5], u'1');
+    EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("Total {i}geral{/i}{e}        fim")));
+
+    t.s.Alterado = false;
+    QuandoAbrir([](QWidget *w) {
+        auto *txt = filho<QPlainTextEdit>(w, "txtEstilo");
+        EXPECT_EQ(txt->toPlainText(), QStringLiteral("Total {i}geral{/i}\n        fim"));
+        txt->selectAll();
+        QTest::mouseClick(filho<QPushButton>(w, "btnEstilo(3)"), Qt::LeftButton);
+        EXPECT_TRUE(txt->toPlainText().startsWith(QStringLiteral("{r}Total")));
+        clicar(w, "btnCancelar");
+    });
+    EXPECT_FALSE(mnuEditarItemEstilo(t.s, nullptr));
+    EXPECT_EQ(item.Texto, QStringLiteral("Total {i}geral{/i}{e}        fim"));
+    EXPECT_FALSE(t.s.Alterado);
+
+    // Only text and command items have a style.
+    item.Tipo = TipoFigura;
+    EXPECT_FALSE(mnuEditarItemEstilo(t.s, nullptr));
+}
+
+namespace {
+
+// Every accessible name under `no`, with the names of its ancestors before it
+// ("Margem Superior:/Margem em milímetros:").
+void coletar(QAccessibleInterface *no, const QString &caminho, QStringList &nomes)
+{
+    for (int k = 0; k < no->childCount(); ++k) {
+        QAccessibleInterface *filhoAcc = no->child(k);
+        if (!filhoAcc)
+            continue;
+        const QString nome = filhoAcc->text(QAccessible::Name);
+        const QString aqui = nome.isEmpty() ? caminho : caminho + QLatin1Char('/') + nome;
+        if (!nome.isEmpty())
+            nomes << aqui.mid(1);
+        coletar(filhoAcc, aqui, nomes);
+    }
+}
+
+void verificarAcessivel(QDialog *d, const QStringList &esperados)
+{
+    d->show();
+    QApplication::processEvents();
+    QStringList nomes;
+    coletar(QAccessible::queryAccessibleInterface(d), QString(), nomes);
+    for (const QString &e : esperados)
+        EXPECT_TRUE(nomes.contains(e)) << d->objectName().toStdString() << ": " << e.toStdString() << " not in "
+                                       << nomes.join(QLatin1String(" | ")).toStdString();
+    // And nothing the user can reach with Tab is nameless.
+    for (QWidget *w : d->findChildren<QWidget *>()) {
+        if (w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
+            EXPECT_FALSE(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name).isEmpty())
+                << d->objectName().toStdString() << ": " << w->objectName().toStdString();
+    }
+    d->close();
+}
+
+}  // namespace
+
+TEST(Dialogos, EveryControlIsFoundByItsName)
+{
+    teste::ConfigTemporaria cfg;
+    frmTextoEmail email{QString()};
+    verificarAcessivel(&email, {"Digite o texto que será exibido no corpo do e-mail:", "Ok", "Cancelar", "Limpar", "Padrão"});
+    frmEstilo estilo(QStringLiteral("x"));
+    verificarAcessivel(&estilo, {"Negrito", "Itálico", "Sublinhado", "Riscado", "Texto do item:", "Ok", "Cancelar"});
+    frmMargens margens(QStringLiteral("\"0\""), QStringLiteral("\"0\""), QStringLiteral("\"0\""));
+    QStringList nomesMargens{"Ok", "Cancelar"};
+    for (const char *quadro : {"Margem Superior:", "Margem Esquerda:", "Margem Inferior:"})
+        for (const char *campo : {"Margem em milímetros:", "Comando ou Variável:"})
+            nomesMargens << QString::fromUtf8(quadro) + QLatin1Char('/') + QString::fromUtf8(campo);
+    verificarAcessivel(&margens, nomesMargens);
+    frmNomeImpressora impressora(QString(), {QStringLiteral("PDF Virtual")});
+    verificarAcessivel(&impressora, {"Impressoras", "Imprerssora:", "Ok", "Cancelar"});
+    frmQualidadeJPG jpg(92);
+    verificarAcessivel(&jpg, {"Digite o percentual (1-100):", "Ok", "Cancelar"});
+    EXPECT_EQ(jpg.windowTitle(), QStringLiteral("Qualidade do JPG no e-mail"));
+    EXPECT_EQ(impressora.windowTitle(), QStringLiteral("Selecione a impressora"));
+    EXPECT_EQ(margens.windowTitle(), QStringLiteral("Margens do papel"));
+    EXPECT_EQ(estilo.windowTitle(), QStringLiteral("Estilo do Item"));
+    EXPECT_EQ(email.windowTitle(), QStringLiteral("Texto do e-mail"));
+}

@@ -326,9 +326,10 @@ void verificarAcessivel(QDialog *d, const QStringList &esperados)
                                        << nomes.join(QLatin1String(" | ")).toStdString();
     // And nothing the user can reach with Tab is nameless.
     for (QWidget *w : d->findChildren<QWidget *>()) {
-        if (w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
+        if (w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy()) {
             EXPECT_FALSE(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name).isEmpty())
                 << d->objectName().toStdString() << ": " << w->objectName().toStdString();
+        }
     }
     d->close();
 }

@@ -142,4 +142,12 @@ std::optional<FonteEscolhida> InterfaceUsuarioQt::Fonte(const FonteEscolhida &in
     return FonteEscolhida{d.Nome, d.Tamanho, d.Negrito, d.Italico, d.Sublinhado, d.Tachado};
 }
 
+std::optional<int> InterfaceUsuarioQt::Cor(int inicial)
+{
+    const int c = CommonDialogCls::PickColor(inicial, m_dono);
+    if (c < 0)
+        return std::nullopt;
+    return c;
+}
+
 }  // namespace lumeta

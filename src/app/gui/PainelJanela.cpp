@@ -319,7 +319,7 @@ void PainelJanela::criar()
         auto *n = new NumeroCtl(this);
         n->setObjectName(nome);
         n->Rotular(rot);
-        n->setMinimumWidth(60);
+        n->setFixedWidth(96);
         auto *un = new QLabel(this);
         m_unidades.append(un);
         gCampos->addWidget(rot, linha, coluna * 3);
@@ -334,7 +334,7 @@ void PainelJanela::criar()
     numTop = campo(QStringLiteral("numTop"), QStringLiteral("Topo:"), 4, 0);
     numLeft->setLocked(true);
     numTop->setLocked(true);
-    gCampos->setColumnStretch(1, 1);
+    gCampos->setColumnStretch(2, 1);
     l->addLayout(gCampos);
     // The automatic-height marker covers the height field.
     picAuto = new QLabel(QStringLiteral("Auto"), this);
@@ -464,6 +464,7 @@ void PainelJanela::criar()
     picCorLinha->setObjectName(QStringLiteral("picCorLinha"));
     picCorLinha->setToolTip(QStringLiteral("Mais cores para as linhas e o fundo"));
     picCorLinha->Clique = [this] { abrirPaleta(AlvoPaleta::Linha, picCorLinha); };
+    gCor->setColumnStretch(2, 1);
     gCor->addWidget(picCores, 0, 0);
     gCor->addWidget(PicCorItem, 0, 1);
     gCor->addWidget(picCoresLinhas, 1, 0);
@@ -534,8 +535,10 @@ void PainelJanela::Atualizar()
     chkCabecalho->setChecked(e.cabecalho);
     chkRodape->setEnabled(e.rodapeHabilitado);
     chkRodape->setChecked(e.rodape);
-    if (!m_textoPendente || !txtTexto->hasFocus())
+    if (!m_textoPendente || !txtTexto->hasFocus()) {
         txtTexto->setText(e.texto);
+        txtTexto->setCursorPosition(0);   // the start of a long text, not its end
+    }
     m_textoPendente = m_textoPendente && txtTexto->hasFocus();
     txtTexto->setEnabled(e.textoHabilitado);
     btnFonte->setEnabled(e.fonteHabilitado);

@@ -528,7 +528,7 @@ void frmLumetaEdit::criarJanela()
     rolagemPainel->setWidgetResizable(true);
     rolagemPainel->setFrameShape(QFrame::NoFrame);
     rolagemPainel->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rolagemPainel->setFixedWidth(painel->sizeHint().width() + rolagemPainel->verticalScrollBar()->sizeHint().width());
+    rolagemPainel->setFixedWidth(painel->minimumSizeHint().width() + rolagemPainel->verticalScrollBar()->sizeHint().width());
     lCanvas->addWidget(rolagemPainel, 0, 2, 2, 1);
     painel->setCanvas(picPagina);
     // Every change of a bar, also while its thumb is dragged, moves the page.

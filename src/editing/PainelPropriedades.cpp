@@ -1,5 +1,6 @@
 #include "editing/PainelPropriedades.h"
 
+#include "canvas/Atributos.h"
 #include "editing/ComandosBanda.h"
 #include "editing/Selecao.h"
 
@@ -26,21 +27,7 @@ std::array<EstadoCaixa, 10> CaixasIniciais()
 
 int DigitoAtributo(const QString &atributos, int posicao)
 {
-    if (posicao < 1 || posicao > atributos.size())
-        return 0;
-    const int d = atributos.at(posicao - 1).digitValue();
-    return d < 0 ? 0 : d;
-}
-
-int AnguloDoDigito(int digito)
-{
-    if (digito & 2)
-        return 1;
-    if (digito & 4)
-        return 2;
-    if (digito & 8)
-        return 3;
-    return 0;
+    return DigitoPosicao(atributos, posicao);
 }
 
 namespace {
@@ -141,7 +128,7 @@ EstadoPainel CalcularPainel(const SessaoEdicao &s)
             e.caixas[n - 1].marcada = it->Atributos.at(n - 1) == u'1';
         const int d7 = DigitoAtributo(it->Atributos, 7);
         e.caixas[6].marcada = (d7 & 1) != 0;
-        e.angulo = AnguloDoDigito(d7);
+        e.angulo = AnguloAtributos(it->Atributos) / 90;
         e.tamanho = qBound(1, DigitoAtributo(it->Atributos, 9), 4) - 1;
         for (int n = 1; n <= 6; ++n)
             e.linhas[n - 1] = it->Linhas.at(n - 1) == u'1';

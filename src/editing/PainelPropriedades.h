@@ -66,10 +66,7 @@ struct EstadoPainel {
 // The captions and tooltips the check boxes have before any item adapts them.
 std::array<EstadoCaixa, 10> CaixasIniciais();
 
-// The angle index of a text-flag digit 7 (2 → 90°, 4 → 180°, 8 → 270°; the
-// first bit set wins).
-int AnguloDoDigito(int digito);
-// The digit of text-flag position 7, 0 when it is not a digit.
+// The digit of a text-flag position, 0 when it is not a digit.
 int DigitoAtributo(const QString &atributos, int posicao);
 
 // The whole panel for the session's selection.

@@ -45,6 +45,9 @@ public:
     virtual std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) = 0;
     // The font dialog starting from `inicial`; nullopt when cancelled.
     virtual std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) = 0;
+    // The colour dialog starting from `inicial` (0x00BBGGRR); nullopt when
+    // cancelled. Front ends without one report a cancel.
+    virtual std::optional<int> Cor(int inicial) { (void)inicial; return std::nullopt; }
 };
 
 }  // namespace lumeta

@@ -105,8 +105,8 @@ TEST(frmLumetaEdit, ArvoreDeMenusNomesLegendasEEstados)
         {"mnuEditarItemRemover", "&Remover", false},   // no item selected yet
         {"mnuEditarItemCodigoBarras", "Mudar para Código de &Barras", false},
         {"mnuEditarMacro", "Inserir &macro", false},
-        {"mnuEditarMacroItem(0)", "Página atual", false},
-        {"mnuEditarMacroItem(12)", "Variável de cabeçalho e rodapé", false},
+        {"mnuEditarMacroItem(0)", "Página atual", true},
+        {"mnuEditarMacroItem(12)", "Variável de cabeçalho e rodapé", true},
         {"mnuEditarLinguagens", "&Linguagens...", true},
         {"mnuEditarVisualizar", "&Visualizar", true},
         {"mnuConfigPaisagem", "Imprimir no modo &Paisagem", true},

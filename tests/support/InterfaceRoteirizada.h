@@ -63,6 +63,16 @@ public:
         return f;
     }
 
+    std::deque<std::optional<int>> cores;  // answers of the colour dialog
+    std::optional<int> Cor(int) override
+    {
+        if (cores.empty())
+            return std::nullopt;
+        const std::optional<int> c = cores.front();
+        cores.pop_front();
+        return c;
+    }
+
 private:
     QString proximoArquivo(const OpcoesArquivo &o)
     {

@@ -2,6 +2,7 @@
 
 #include "app/gui/Autor.h"
 #include "app/gui/CanvasJanela.h"
+#include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
 #include "controls/ui/CommonDialogCls.h"
 #include "controls/ui/TabCtl.h"
@@ -37,6 +38,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -312,8 +314,10 @@ void frmLumetaEdit::criarMenuEditar()
                 continue;
             for (Qt::KeyboardModifiers extra : {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
                 auto *atalho = new QShortcut(QKeySequence(QKeyCombination(mod | extra, Qt::Key(tecla))), this);
-                connect(atalho, &QShortcut::activated, this, [this, n] {
-                    AlternarLinha(m_sessao, n);
+                connect(atalho, &QShortcut::activated, this, [this, n, mod] {
+                    if (mod == Qt::AltModifier && painel->TextoTemFoco())
+                        return;
+                    painel->ClicarLinha(n);
                     picPagina->AtualizarMarcas();
                 });
             }
@@ -325,7 +329,8 @@ void frmLumetaEdit::criarMenuEditar()
     for (size_t i = 0; i < macros.size(); ++i) {
         if (i == macros.size() - 1)
             macro->addSeparator();
-        item(macro, QStringLiteral("mnuEditarMacroItem(%1)").arg(i), QString::fromUtf8(macros[i].legenda), false);
+        QAction *a = item(macro, QStringLiteral("mnuEditarMacroItem(%1)").arg(i), QString::fromUtf8(macros[i].legenda));
+        connect(a, &QAction::triggered, this, [this, i] { painel->InserirMacro(int(i)); });
     }
     mnuEditar->addSeparator();
     item(mnuEditar, QStringLiteral("mnuEditarLinguagens"), QStringLiteral("&Linguagens..."), false);
@@ -543,6 +548,18 @@ void frmLumetaEdit::criarJanela()
     lMoldura->addWidget(hsbPagina, 1, 0);
     lCanvas->addWidget(moldura, 1, 0, 1, 2);
     lCanvas->setRowStretch(1, 1);
+    lCanvas->setColumnStretch(0, 1);
+    // The property panel, scrolled when the window is too low for it.
+    painel = new PainelJanela(m_sessao, nullptr);
+    auto *rolagemPainel = new QScrollArea(areaCanvas);
+    rolagemPainel->setObjectName(QStringLiteral("rolagemPainel"));
+    rolagemPainel->setWidget(painel);
+    rolagemPainel->setWidgetResizable(true);
+    rolagemPainel->setFrameShape(QFrame::NoFrame);
+    rolagemPainel->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rolagemPainel->setFixedWidth(painel->minimumSizeHint().width() + rolagemPainel->verticalScrollBar()->sizeHint().width());
+    lCanvas->addWidget(rolagemPainel, 0, 2, 2, 1);
+    painel->setCanvas(picPagina);
     // Every change of a bar, also while its thumb is dragged, moves the page.
     connect(hsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(-v, picPagina->y()); });
     connect(vsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(picPagina->x(), -v); });
@@ -638,7 +655,12 @@ void frmLumetaEdit::ligarSessao()
         picPagina->AtualizarMarcas();
     };
     g.SelecionarBanda = [this] { picPagina->AtualizarMarcas(); };
-    g.Validar = [this] { prepararMenuEditar(); };
+    g.Validar = [this] {
+        prepararMenuEditar();
+        painel->Atualizar();
+    };
+    g.ConfirmarPainel = [this] { return painel->ConfirmarPendentes(); };
+    g.DigitarTexto = [this](const QString &c) { painel->DigitarTexto(c); };
     g.MagicoAlterado = [this] { picPagina->AtualizarMarcas(); };
     g.AlcaAlterada = [this] { picPagina->AtualizarMarcas(); };
     g.EsvaziarAreaTransferencia = [] { QGuiApplication::clipboard()->clear(); };
@@ -821,6 +843,7 @@ void frmLumetaEdit::prepararMenuEditar()
     Acao(QStringLiteral("mnuEditarItemFigura"))->setEnabled(e.tipoFigura);
     Acao(QStringLiteral("mnuEditarItemComando"))->setEnabled(e.tipoComando);
     Acao(QStringLiteral("mnuEditarItemCodigoBarras"))->setEnabled(e.tipoCodigoBarras);
+    findChild<QMenu *>(QStringLiteral("mnuEditarMacro"))->menuAction()->setEnabled(e.itemComandos);
     QAction *pagina = Acao(QStringLiteral("mnuEditarBandaPagina"));
     pagina->setEnabled(e.bandaPagina);
     pagina->setText(e.legendaBandaPagina);

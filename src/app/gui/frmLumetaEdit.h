@@ -25,6 +25,7 @@ namespace lumeta {
 class ImagemClicavel;
 class PicContainer;
 class PicPagina;
+class PainelJanela;
 class TabCtl;
 class XPButtonCtl;
 
@@ -80,6 +81,7 @@ public:
     QWidget *areaCanvas = nullptr;     // tab, canvas and scroll bars
     QWidget *colunaResultado = nullptr; // the result pane and its caption
     QSplitter *divisor = nullptr;      // canvas area | result pane
+    PainelJanela *painel = nullptr;    // the property panel beside the canvas
 
 protected:
     void closeEvent(QCloseEvent *e) override;

@@ -142,4 +142,12 @@ std::optional<FonteEscolhida> InterfaceUsuarioQt::Fonte(const FonteEscolhida &in
     return f;
 }
 
+std::optional<int> InterfaceUsuarioQt::Cor(int inicial)
+{
+    const int c = CommonDialogCls::PickColor(inicial, m_dono);
+    if (c < 0)
+        return std::nullopt;
+    return c;
+}
+
 }  // namespace lumeta

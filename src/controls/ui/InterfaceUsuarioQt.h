@@ -27,6 +27,7 @@ public:
     QString ArquivoAbrir(const OpcoesArquivo &opcoes) override;
     std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) override;
     std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) override;
+    std::optional<int> Cor(int inicial) override;
 
 private:
     QWidget *m_dono;

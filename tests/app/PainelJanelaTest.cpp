@@ -1,0 +1,161 @@
+// The property panel of the real window, driven as a user drives it.
+#include "app/gui/CanvasJanela.h"
+#include "app/gui/PainelJanela.h"
+#include "app/gui/frmLumetaEdit.h"
+#include "controls/ui/NumeroCtl.h"
+#include "editing/DesenhoSelecao.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+struct Painel {
+    teste::ConfigTemporaria cfg;
+    teste::InterfaceRoteirizada ui;
+    frmLumetaEdit janela{&ui};
+    SessaoEdicao &s = janela.Sessao();
+    PainelJanela *p = nullptr;
+    QLocale anterior;
+
+    Painel()
+    {
+        QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+        janela.Iniciar({});
+        janela.resize(1100, 760);
+        janela.show();
+        janela.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&janela));
+        p = janela.painel;
+        QTest::mouseClick(janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 10, 16 + 5));
+        QApplication::processEvents();
+    }
+    ~Painel() { QLocale::setDefault(anterior); }
+    Item &item() { return s.Documento.banda(1).Itens[0]; }
+    QString linhaT() const
+    {
+        for (const QString &l : s.TextoResultado.split(QLatin1Char('\n')))
+            if (l.startsWith(QLatin1String("T ")))
+                return l;
+        return QString();
+    }
+};
+
+}  // namespace
+
+TEST(PainelJanela, LarguraEmMilimetrosMudaOsPixels)
+{
+    Painel t;
+    ASSERT_EQ(t.s.ItemSelecionado, 1);
+    t.s.DefinirUnidade(6);
+    t.s.ConcluirEdicao();
+    EXPECT_EQ(t.p->numWidth->txtNumero()->text(), QStringLiteral("16,93"));   // 64 px
+    t.p->numWidth->txtNumero()->setFocus();
+    QTest::keyClicks(t.p->numWidth->txtNumero(), QStringLiteral("20"));
+    QTest::keyClick(t.p->numWidth->txtNumero(), Qt::Key_Return);   // Enter acts as Tab
+    EXPECT_FALSE(t.p->numWidth->txtNumero()->hasFocus());
+    EXPECT_EQ(t.item().Largura, 76);
+    EXPECT_EQ(t.p->numWidth->txtNumero()->text(), QStringLiteral("20,11"));
+    const QImage img = t.janela.picPagina->grab().toImage();
+    EXPECT_EQ(img.pixelColor(8 + 76 - 3, 16 + 9), CorSelecao);   // the frame's right handle moved
+}
+
+TEST(PainelJanela, CaixaDeFormatoMudaALinhaT)
+{
+    Painel t;
+    const QString antes = t.linhaT();
+    ASSERT_FALSE(antes.isEmpty());
+    QCheckBox *centro = t.p->chkAlinhamento[0];
+    QTest::mouseClick(centro, Qt::LeftButton, {}, QPoint(8, centro->height() / 2));
+    EXPECT_EQ(t.item().Atributos.at(0), u'1');
+    EXPECT_NE(t.linhaT(), antes);
+    // Filling the panel from the session does not click the box again.
+    t.s.ConcluirEdicao();
+    EXPECT_EQ(t.item().Atributos.at(0), u'1');
+}
+
+TEST(PainelJanela, DigitarNoCanvasEEnter)
+{
+    Painel t;
+    t.janela.picPagina->setFocus();
+    QTest::keyClick(t.janela.picPagina, Qt::Key_A);
+    EXPECT_TRUE(t.p->txtTexto->hasFocus());
+    EXPECT_EQ(t.p->txtTexto->text(), QStringLiteral("a"));
+    EXPECT_EQ(t.p->txtTexto->cursorPosition(), 1);
+    QTest::keyClicks(t.p->txtTexto, QStringLiteral("bc"));
+    QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
+    EXPECT_EQ(t.item().Texto, QStringLiteral("abc"));
+    EXPECT_TRUE(t.janela.picPagina->hasFocus());
+    // Enter on the canvas goes back to the text.
+    QTest::keyClick(t.janela.picPagina, Qt::Key_Return);
+    EXPECT_TRUE(t.p->txtTexto->hasFocus());
+    // A click on the canvas commits a pending edit first.
+    QTest::keyClicks(t.p->txtTexto, QStringLiteral("!"));
+    QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 10, 16 + 5));
+    EXPECT_TRUE(t.item().Texto.endsWith(QLatin1Char('!')));
+}
+
+TEST(PainelJanela, MacroNoCursorFicaSelecionada)
+{
+    Painel t;
+    t.p->txtTexto->setFocus();
+    t.p->txtTexto->setText(QStringLiteral("Pág "));
+    t.p->txtTexto->setCursorPosition(4);
+    t.p->InserirMacro(0);
+    EXPECT_EQ(t.p->txtTexto->text(), QStringLiteral("Pág (%_pag_%)"));
+    EXPECT_EQ(t.p->txtTexto->selectedText(), QStringLiteral("(%_pag_%)"));
+    QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
+    EXPECT_EQ(t.item().Texto, QStringLiteral("Pág (%_pag_%)"));
+}
+
+TEST(PainelJanela, BotoesDeLinhaPeloTeclado)
+{
+    Painel t;
+    t.p->ClicarLinha(5);
+    EXPECT_EQ(t.item().Linhas, QStringLiteral("0000100000"));
+    EXPECT_TRUE(t.p->lblAlinhamento[4]->isChecked());
+    EXPECT_TRUE(t.p->lblAlinhamento[4]->toolTip().endsWith(QStringLiteral(" ALT + 5 ou CTRL + 8 ")));
+}
+
+TEST(PainelJanela, ControlesAcessiveisPeloNome)
+{
+    Painel t;
+    QStringList nomes;
+    std::function<void(QAccessibleInterface *)> visitar = [&](QAccessibleInterface *a) {
+        if (!a)
+            return;
+        nomes << a->text(QAccessible::Name) << a->text(QAccessible::Description);
+        for (int i = 0; i < a->childCount(); ++i)
+            visitar(a->child(i));
+    };
+    visitar(QAccessible::queryAccessibleInterface(&t.janela));
+    QStringList esperados = {
+        QStringLiteral("Texto:"), QStringLiteral("Tipo:"), QStringLiteral("Ângulo:"), QStringLiteral("Comprimento:"),
+        QStringLiteral("Altura:"), QStringLiteral("Deslocamento:"), QStringLiteral("Esquerda:"), QStringLiteral("Topo:"),
+        QStringLiteral("Fonte"), QStringLiteral("Final do cabeçalho"), QStringLiteral("Inicio do rodapé"),
+        QStringLiteral("Remover o item selecionado - [DEL]"),
+        QStringLiteral("Mover o item selecionado para a esquerda - [CTRL + Seta para esquerda]"),
+        QStringLiteral("Mover o item selecionado para a direita - [CTRL + Seta para direita]"),
+        QStringLiteral("Justificar"), QStringLiteral("Não cortar o texto"), QStringLiteral("* Tamanho (2~4)"),
+        QStringLiteral("Espessura das linhas (1 a 64)"), QStringLiteral("Cor do Texto (Somente para itens de Texto)"),
+        QStringLiteral("Cor do Fundo (Somente para itens de Texto)"),
+        QStringLiteral("Cor das Linhas (Somente para itens de Texto)"), QStringLiteral("(1, 1)")};
+    for (const QCheckBox *c : t.p->chkAlinhamento)
+        if (c->isVisible() && c->text().isEmpty())
+            esperados << c->toolTip();
+    for (const QToolButton *b : t.p->lblAlinhamento)
+        esperados << b->toolTip();
+    for (const char *nome : {"picCores", "picCoresLinhas", "PicCorItem", "picCorLinha"})
+        esperados << t.janela.findChild<QWidget *>(QLatin1String(nome))->toolTip();
+    for (const QString &n : esperados)
+        EXPECT_TRUE(nomes.contains(n)) << n.toStdString();
+}

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPrinterInfo>
+#include <QSignalBlocker>
 #include <QPushButton>
 
 namespace lumeta {
@@ -41,13 +42,14 @@ frmNomeImpressora::frmNomeImpressora(const QString &valor, const QStringList &im
 
     connect(txtImpressora, &QLineEdit::textEdited, this, [this](const QString &t) {
         const int k = EntradaImpressora(m_lista, t);
+        const QSignalBlocker calado(lstImpressoras);
         lstImpressoras->setCurrentRow(k);
         if (k < 0)
             lstImpressoras->clearSelection();
     });
     // The box follows the list only when the user picks in the list.
     connect(lstImpressoras, &QListWidget::currentRowChanged, this, [this](int k) {
-        if (k >= 0 && !txtImpressora->hasFocus())
+        if (k >= 0)
             txtImpressora->setText(m_lista[k]);
     });
     connect(lstImpressoras, &QListWidget::itemDoubleClicked, this, &frmNomeImpressora::confirmar);

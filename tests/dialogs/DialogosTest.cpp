@@ -42,6 +42,10 @@ void QuandoAbrir(std::function<void(QWidget *)> acao)
             return;
         timer->stop();
         timer->deleteLater();
+        // Focus moves only inside the active window; a busy machine shows the
+        // dialog before the window system has activated it.
+        w->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(w));
         acao(w);
     });
     timer->start();

@@ -25,16 +25,9 @@ bool EnterComoTab::eventFilter(QObject *obj, QEvent *e)
     const int tecla = static_cast<QKeyEvent *>(e)->key();
     if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter)
         return false;
-    // A spin box's line edit is not itself in the focus chain; its owner is.
-    QWidget *dono = campo;
-    if (campo->parentWidget() && campo->parentWidget()->focusProxy() == campo)
-        dono = campo->parentWidget();
-    QWidget *proximo = dono->nextInFocusChain();
-    while (proximo && proximo != dono && !(proximo->isVisible() && proximo->isEnabled()
-                                           && (proximo->focusPolicy() & Qt::TabFocus)))
-        proximo = proximo->nextInFocusChain();
-    if (proximo)
-        proximo->setFocus(Qt::TabFocusReason);
+    // Qt's own Tab walk knows focus proxies and compound fields.
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(campo, &tab);
     return true;
 }
 

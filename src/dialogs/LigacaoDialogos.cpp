@@ -1,6 +1,7 @@
 #include "dialogs/LigacaoDialogos.h"
 
 #include "app/gui/CanvasJanela.h"
+#include "app/gui/PainelJanela.h"
 #include "app/gui/frmLumetaEdit.h"
 #include "dialogs/frmCodigoBarras.h"
 #include "dialogs/frmComentario.h"
@@ -23,6 +24,7 @@ void LigarDialogosEditar(frmLumetaEdit &janela)
     frmLumetaEdit *j = &janela;
     if (QAction *a = janela.Acao(QStringLiteral("mnuEditarItemCodigoBarras")))
         QObject::connect(a, &QAction::triggered, j, [j] { AbrirCodigoBarrasJanela(*j); });
+    QObject::connect(janela.painel, &PainelJanela::CodigoBarrasPedido, j, [j] { AbrirCodigoBarrasJanela(*j); });
     if (QAction *a = janela.Acao(QStringLiteral("mnuEditarBandaComentario"))) {
         a->setEnabled(true);
         QObject::connect(a, &QAction::triggered, j, [j] {

@@ -2,6 +2,7 @@
 
 #include "dialogs/Dialogo.h"
 #include "editing/ComandosOpcoes.h"
+#include "editing/ComandosPainel.h"
 #include "editing/SessaoEdicao.h"
 #include "output/Estilo.h"
 
@@ -107,8 +108,9 @@ bool mnuEditarItemEstilo(SessaoEdicao &s, QWidget *pai)
     if (s.ItemSelecionado > b.NumItens())
         return false;
     const Item &item = b.Itens[s.ItemSelecionado - 1];
+    // Pictures and barcodes have no words to style, only the item's font.
     if (item.Tipo != TipoTexto && item.Tipo != TipoComando)
-        return false;
+        return AlterarFonte(s);
     frmEstilo f(item.Texto, pai);
     if (f.exec() != QDialog::Accepted)
         return false;

@@ -1,5 +1,6 @@
 #include "dialogs/frmMargens.h"
 
+#include "controls/ui/NumeroCtl.h"
 #include "dialogs/Dialogo.h"
 #include "editing/ComandosOpcoes.h"
 #include "editing/SessaoEdicao.h"
@@ -9,26 +10,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 
 namespace lumeta {
-
-namespace {
-
-// Millimetres as the user types them: either decimal separator.
-double lerMilimetros(const QString &t)
-{
-    return QString(t).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
-}
-
-QString mostrarMilimetros(double v)
-{
-    return QString::number(v, 'g', 15).replace(QLatin1Char('.'), QLocale().decimalPoint());
-}
-
-}  // namespace
 
 frmMargens::frmMargens(const QString &superior, const QString &esquerda, const QString &inferior, QWidget *pai)
     : QDialog(pai)
@@ -40,7 +24,7 @@ frmMargens::frmMargens(const QString &superior, const QString &esquerda, const Q
     const struct {
         const char *sufixo;
         const char *legenda;
-        QLineEdit **num;
+        NumeroCtl **num;
         QLineEdit **txt;
         const QString *valor;
     } margens[3] = {{"Superior", "Margem Superior:", &numSuperior, &txtSuperior, &superior},
@@ -49,15 +33,17 @@ frmMargens::frmMargens(const QString &superior, const QString &esquerda, const Q
     for (const auto &m : margens) {
         auto *quadro = new QGroupBox(QString::fromUtf8(m.legenda), this);
         quadro->setObjectName(QStringLiteral("fra") + QLatin1String(m.sufixo));
-        auto *num = new QLineEdit(quadro);
+        auto *num = new NumeroCtl(quadro);
         num->setObjectName(QStringLiteral("num") + QLatin1String(m.sufixo));
-        num->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,6}([.,]\\d{0,6})?")), num));
-        num->setAlignment(Qt::AlignRight);
-        num->setMaximumWidth(110);
+        num->setNumberFormat(4.2);
+        num->setAllowEmpty(true);
+        num->setFixedWidth(110);
         auto *txt = new QLineEdit(quadro);
         txt->setObjectName(QStringLiteral("txt") + QLatin1String(m.sufixo));
         auto *layout = new QGridLayout(quadro);
-        layout->addWidget(CriarRotulo(quadro, "lblMilimetros", QStringLiteral("Margem em milímetros:"), num), 0, 0);
+        QLabel *rotulo = CriarRotulo(quadro, "lblMilimetros", QStringLiteral("Margem em milímetros:"), num);
+        num->Rotular(rotulo);
+        layout->addWidget(rotulo, 0, 0);
         layout->addWidget(num, 0, 1, Qt::AlignLeft);
         layout->addWidget(CriarRotulo(quadro, "lblComando", QStringLiteral("Comando ou Variável:"), txt), 1, 0);
         layout->addWidget(txt, 1, 1);
@@ -65,22 +51,24 @@ frmMargens::frmMargens(const QString &superior, const QString &esquerda, const Q
         grade->addWidget(quadro);
 
         const MargemLida lida = LerMargem(*m.valor);
-        if (lida.numero)
-            num->setText(mostrarMilimetros(lida.milimetros));
-        else
+        if (lida.numero) {
+            num->setValue(lida.milimetros);
+        } else {
+            num->Esvaziar();
             txt->setText(lida.comando);
+        }
         // Only what the user does clears the other field of the pair.
-        connect(num, &QLineEdit::textEdited, txt, &QLineEdit::clear);
-        connect(txt, &QLineEdit::textEdited, num, &QLineEdit::clear);
+        connect(num, &NumeroCtl::Change, txt, &QLineEdit::clear);
+        connect(txt, &QLineEdit::textEdited, num, &NumeroCtl::Esvaziar);
         *m.num = num;
         *m.txt = txt;
     }
 
     QHBoxLayout *botoes = BotoesOkCancelar(this, [this] {
-        const QLineEdit *nums[3] = {numSuperior, numEsquerda, numInferior};
+        const NumeroCtl *nums[3] = {numSuperior, numEsquerda, numInferior};
         const QLineEdit *txts[3] = {txtSuperior, txtEsquerda, txtInferior};
         for (int k = 0; k < 3; ++k)
-            m_margens[k] = GravarMargem(lerMilimetros(nums[k]->text()), txts[k]->text());
+            m_margens[k] = GravarMargem(nums[k]->Value(), txts[k]->text());
         accept();
     });
     grade->addLayout(botoes);

@@ -8,6 +8,7 @@ class QLineEdit;
 
 namespace lumeta {
 
+class NumeroCtl;
 class SessaoEdicao;
 
 class frmMargens : public QDialog {
@@ -19,7 +20,7 @@ public:
     // The margins to store, valid after OK: top, left, bottom.
     QString Margem(int k) const { return m_margens[k]; }
 
-    QLineEdit *numSuperior = nullptr, *numEsquerda = nullptr, *numInferior = nullptr;
+    NumeroCtl *numSuperior = nullptr, *numEsquerda = nullptr, *numInferior = nullptr;
     QLineEdit *txtSuperior = nullptr, *txtEsquerda = nullptr, *txtInferior = nullptr;
 
 private:

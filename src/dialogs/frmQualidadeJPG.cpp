@@ -1,14 +1,13 @@
 #include "dialogs/frmQualidadeJPG.h"
 
+#include "controls/ui/NumeroCtl.h"
 #include "dialogs/Dialogo.h"
 #include "editing/ComandosOpcoes.h"
 #include "editing/SessaoEdicao.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 
 namespace lumeta {
 
@@ -17,22 +16,22 @@ frmQualidadeJPG::frmQualidadeJPG(int16_t qualidade, QWidget *pai) : QDialog(pai)
     setObjectName(QStringLiteral("frmQualidadeJPG"));
     setWindowTitle(QStringLiteral("Qualidade do JPG no e-mail"));
     new EnterComoTab(this);
-    numQualidadeJPG = new QLineEdit(QString::number(qualidade), this);
+    numQualidadeJPG = new NumeroCtl(this);
     numQualidadeJPG->setObjectName(QStringLiteral("numQualidadeJPG"));
-    numQualidadeJPG->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}")), this));
-    numQualidadeJPG->setAlignment(Qt::AlignRight);
-    numQualidadeJPG->setMaximumWidth(80);
+    numQualidadeJPG->setNumberFormat(3);
+    numQualidadeJPG->setValue(qualidade);
+    numQualidadeJPG->setFixedWidth(80);
     auto *rotulo = CriarRotulo(this, "lblQualidadeJPG", QStringLiteral("Digite o percentual (1-100):"), numQualidadeJPG);
-    connect(numQualidadeJPG, &QLineEdit::textEdited, this, [this](const QString &t) {
-        if (t.isEmpty())
-            return;
-        const QString limitado = QString::number(LimitarQualidadeJPG(t.toLongLong()));
-        if (limitado != t)
-            numQualidadeJPG->setText(limitado);
+    numQualidadeJPG->Rotular(rotulo);
+    // A blank field is the user between two numbers, not a 0 to raise to 1.
+    connect(numQualidadeJPG, &NumeroCtl::Change, this, [this] {
+        const double v = numQualidadeJPG->Value();
+        if (!numQualidadeJPG->Vazio() && v != LimitarQualidadeJPG(qint64(v)))
+            numQualidadeJPG->setValue(LimitarQualidadeJPG(qint64(v)));
     });
 
     QHBoxLayout *botoes = BotoesOkCancelar(this, [this] {
-        m_qualidade = LimitarQualidadeJPG(numQualidadeJPG->text().toLongLong());
+        m_qualidade = LimitarQualidadeJPG(qint64(numQualidadeJPG->Value()));
         accept();
     });
 
@@ -45,7 +44,6 @@ frmQualidadeJPG::frmQualidadeJPG(int16_t qualidade, QWidget *pai) : QDialog(pai)
     grade->addLayout(botoes);
     setMinimumWidth(300);
     numQualidadeJPG->setFocus();
-    numQualidadeJPG->selectAll();
 }
 
 bool mnuConfigQualidadeJPG(SessaoEdicao &s, QWidget *pai)

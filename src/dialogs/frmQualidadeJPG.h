@@ -3,10 +3,10 @@
 
 #include <QDialog>
 
-class QLineEdit;
 
 namespace lumeta {
 
+class NumeroCtl;
 class SessaoEdicao;
 
 class frmQualidadeJPG : public QDialog {
@@ -16,7 +16,7 @@ public:
     // The quality chosen; the one given when the dialog was cancelled.
     int16_t Qualidade() const { return m_qualidade; }
 
-    QLineEdit *numQualidadeJPG = nullptr;
+    NumeroCtl *numQualidadeJPG = nullptr;
 
 private:
     int16_t m_qualidade;

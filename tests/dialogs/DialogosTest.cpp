@@ -1,3 +1,4 @@
+#include "controls/ui/NumeroCtl.h"
 #include "dialogs/frmEstilo.h"
 #include "dialogs/frmMargens.h"
 #include "dialogs/frmNomeImpressora.h"
@@ -59,6 +60,13 @@ T *filho(QWidget *w, const char *nome)
     return c;
 }
 
+// The text box inside a numeric field.
+QLineEdit *numero(QWidget *w, const char *nome)
+{
+    auto *n = filho<NumeroCtl>(w, nome);
+    return n ? n->txtNumero() : nullptr;
+}
+
 void clicar(QWidget *w, const char *botao) { QTest::mouseClick(filho<QPushButton>(w, botao), Qt::LeftButton); }
 
 void digitar(QLineEdit *campo, const QString &texto)
@@ -74,14 +82,16 @@ void digitar(QLineEdit *campo, const QString &texto)
 TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
 {
     Sessao t;
+    const QLocale anterior;
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     LayoutDocumento &d = t.s.Documento;
     d.MargemSuperior = QStringLiteral("MARGEM-SUP");
     d.MargemEsquerda = QStringLiteral("\"12.5\"");
     QuandoAbrir([](QWidget *w) {
-        auto *numSup = filho<QLineEdit>(w, "numSuperior");
+        auto *numSup = numero(w, "numSuperior");
         EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QStringLiteral("MARGEM-SUP"));
         EXPECT_EQ(numSup->text(), QString());
-        EXPECT_EQ(filho<QLineEdit>(w, "numEsquerda")->text(), QStringLiteral("12.5"));
+        EXPECT_EQ(numero(w, "numEsquerda")->text(), QStringLiteral("12,5"));
         EXPECT_EQ(filho<QLineEdit>(w, "txtEsquerda")->text(), QString());
         // Enter moves on as Tab and is swallowed.
         numSup->setFocus();
@@ -89,7 +99,7 @@ TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
         EXPECT_EQ(QApplication::focusWidget(), filho<QLineEdit>(w, "txtSuperior"));
         EXPECT_TRUE(w->isVisible());
         // A comma is a decimal separator too.
-        digitar(filho<QLineEdit>(w, "numInferior"), QStringLiteral("7,5"));
+        digitar(numero(w, "numInferior"), QStringLiteral("7,5"));
         clicar(w, "btnOk");
     });
     ASSERT_TRUE(mnuConfigMargens(t.s, nullptr));
@@ -104,8 +114,8 @@ TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
     QuandoAbrir([](QWidget *w) {
         // Typing a name empties the number of the same margin, and a number the name.
         digitar(filho<QLineEdit>(w, "txtEsquerda"), QStringLiteral("VAR-ESQ"));
-        EXPECT_EQ(filho<QLineEdit>(w, "numEsquerda")->text(), QString());
-        digitar(filho<QLineEdit>(w, "numSuperior"), QStringLiteral("3"));
+        EXPECT_EQ(numero(w, "numEsquerda")->text(), QString());
+        digitar(numero(w, "numSuperior"), QStringLiteral("3"));
         EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QString());
         clicar(w, "btnCancelar");
     });
@@ -113,6 +123,7 @@ TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
     EXPECT_EQ(d.MargemSuperior, QStringLiteral("MARGEM-SUP"));
     EXPECT_EQ(d.MargemEsquerda, QStringLiteral("\"12.5\""));
     EXPECT_FALSE(t.s.Alterado);
+    QLocale::setDefault(anterior);
 }
 
 TEST(frmNomeImpressora, TypedNamesSelectTheirEntryAndAreStoredAsTyped)
@@ -176,7 +187,7 @@ TEST(frmQualidadeJPG, TypedValuesAreClampedAndTheSessionKeepsTheChoice)
 {
     Sessao t;
     QuandoAbrir([](QWidget *w) {
-        auto *num = filho<QLineEdit>(w, "numQualidadeJPG");
+        auto *num = numero(w, "numQualidadeJPG");
         EXPECT_EQ(num->text(), QStringLiteral("92"));
         digitar(num, QStringLiteral("0"));
         EXPECT_EQ(num->text(), QStringLiteral("1"));
@@ -197,7 +208,7 @@ TEST(frmQualidadeJPG, TypedValuesAreClampedAndTheSessionKeepsTheChoice)
 
     t.s.Alterado = false;
     QuandoAbrir([](QWidget *w) {
-        digitar(filho<QLineEdit>(w, "numQualidadeJPG"), QStringLiteral("20"));
+        digitar(numero(w, "numQualidadeJPG"), QStringLiteral("20"));
         clicar(w, "btnCancelar");
     });
     EXPECT_FALSE(mnuConfigQualidadeJPG(t.s, nullptr));

@@ -290,23 +290,26 @@ void PainelJanela::criar()
     mnuPopup2->setObjectName(QStringLiteral("mnuPopup2"));
     const QStringList nomes = {QStringLiteral("mnuPopup2Texto"), QStringLiteral("mnuPopup2Figura"),
                                QStringLiteral("mnuPopup2Comando"), QStringLiteral("mnuPopup2CodigoBarras")};
-    const QStringList legendas = {QStringLiteral("Mudar para &Texto"), QStringLiteral("Mudar para &Figura"),
-                                  QStringLiteral("Mudar para C&omando"), QStringLiteral("Mudar para Código de &Barras")};
+    const QStringList legendas = {QStringLiteral("&Texto"), QStringLiteral("&Figura"), QStringLiteral("C&omando"),
+                                  QStringLiteral("Código de &Barras")};
     for (int i = 0; i < 4; ++i) {
         QAction *a = mnuPopup2->addAction(legendas[i]);
         a->setObjectName(nomes[i]);
         if (i < 3) {
             static const uint8_t tipos[3] = {TipoTexto, TipoFigura, TipoComando};
             connect(a, &QAction::triggered, this, [this, i] { executar([this, i] { DefinirTipoItem(m_sessao, tipos[i]); }); });
+        } else {
+            connect(a, &QAction::triggered, this, [this] { executar([this] { emit CodigoBarrasPedido(); }); });
         }
     }
     connect(btnFonte, &QPushButton::customContextMenuRequested, this, [this](const QPoint &p) {
         if (!CalcularPainel(m_sessao).temItem)
             return;
-        const int tipo = CalcularPainel(m_sessao).tipo;
+        const EstadoMenuEditar e = PrepararMenuEditar(m_sessao, false);
+        const bool habilitado[4] = {e.tipoTexto, e.tipoFigura, e.tipoComando, e.tipoCodigoBarras};
         const QList<QAction *> acoes = mnuPopup2->actions();
         for (int i = 0; i < acoes.size(); ++i)
-            acoes[i]->setEnabled(i != tipo && i != 3);
+            acoes[i]->setEnabled(habilitado[i]);
         mnuPopup2->popup(btnFonte->mapToGlobal(p));
     });
 
@@ -698,7 +701,9 @@ void PainelJanela::clicarFonte()
     case AcaoBotaoFonte::Figura:
         executar([this] { AbrirFigura(m_sessao); });
         break;
-    case AcaoBotaoFonte::CodigoBarras:   // the barcode dialog comes with its own window
+    case AcaoBotaoFonte::CodigoBarras:
+        executar([this] { emit CodigoBarrasPedido(); });
+        break;
     case AcaoBotaoFonte::Nada:
         break;
     }

@@ -80,6 +80,11 @@ public:
     QToolButton *lblLinhas = nullptr;
     QMenu *mnuPopup2 = nullptr;
 
+signals:
+    // `btnFonte` or `mnuPopup2CodigoBarras` on a barcode: the dialog lives
+    // with the window, which owns the dialogs.
+    void CodigoBarrasPedido();
+
 protected:
     bool eventFilter(QObject *obj, QEvent *e) override;
 

@@ -837,7 +837,8 @@ void frmLumetaEdit::prepararMenuEditar()
 {
     const EstadoMenuEditar e = PrepararMenuEditar(m_sessao, ehCaixaDeTexto(QApplication::focusWidget()));
     Acao(QStringLiteral("mnuEditarDesfazer"))->setEnabled(e.desfazer);
-    for (const char *nome : {"mnuEditarItemRemover", "mnuEditarItemDuplicar", "mnuEditarItemLeft", "mnuEditarItemRight"})
+    for (const char *nome :
+         {"mnuEditarItemRemover", "mnuEditarItemDuplicar", "mnuEditarItemLeft", "mnuEditarItemRight", "mnuEditarItemEstilo"})
         Acao(QString::fromLatin1(nome))->setEnabled(e.itemComandos);
     Acao(QStringLiteral("mnuEditarItemTexto"))->setEnabled(e.tipoTexto);
     Acao(QStringLiteral("mnuEditarItemFigura"))->setEnabled(e.tipoFigura);

@@ -63,6 +63,12 @@ void NumeroCtl::setValue(double v)
     espelhar();
 }
 
+void NumeroCtl::Esvaziar()
+{
+    m_regras.DefinirVazio();
+    espelhar();
+}
+
 void NumeroCtl::setNumberFormat(double v)
 {
     if (m_regras.DefinirFormato(v))

@@ -28,6 +28,8 @@ public:
     bool Vazio() const { return m_regras.Vazio(); }
     // Written by the host: shown in the display format, no Change raised.
     void setValue(double v);
+    // No number at all (shown blank), as a field that holds none yet.
+    void Esvaziar();
     double NumberFormat() const { return m_regras.Formato(); }
     void setNumberFormat(double v);
     bool HoldDecimal() const { return m_regras.ManterDecimais; }

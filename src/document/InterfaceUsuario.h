@@ -44,7 +44,8 @@ public:
     // An input box; nullopt when cancelled.
     virtual std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) = 0;
     // The font dialog starting from `inicial`; nullopt when cancelled.
-    virtual std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) = 0;
+    // `soImpressao` lists only the fonts a printer can draw at any size.
+    virtual std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial, bool soImpressao) = 0;
     // The colour dialog starting from `inicial` (0x00BBGGRR); nullopt when
     // cancelled. Front ends without one report a cancel.
     virtual std::optional<int> Cor(int inicial) { (void)inicial; return std::nullopt; }

@@ -101,7 +101,8 @@ void mnuEditarBandaFonte(SessaoEdicao &s)
     Banda &banda = s.Documento.banda(s.BandaSelecionada);
     const FonteItem &atual = s.ItemSelecionado > 0 ? banda.Itens[s.ItemSelecionado - 1].Fonte : banda.Itens[0].Fonte;
     const std::optional<FonteEscolhida> f = s.Ui->Fonte(
-        {atual.Nome, double(atual.Tamanho), atual.Negrito, atual.Italico, atual.Sublinhado, atual.Tachado});
+        {atual.Nome, double(atual.Tamanho), atual.Negrito, atual.Italico, atual.Sublinhado, atual.Tachado},
+        s.Config.FontesImpressora);
     if (!f)
         return;
     for (Item &it : banda.Itens)

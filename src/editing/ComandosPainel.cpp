@@ -174,7 +174,8 @@ bool AlterarFonte(SessaoEdicao &s)
         return false;
     const FonteItem &atual = s.Documento.banda(s.BandaSelecionada).Itens[s.ItemSelecionado - 1].Fonte;
     const std::optional<FonteEscolhida> f = s.Ui->Fonte(
-        {atual.Nome, double(atual.Tamanho), atual.Negrito, atual.Italico, atual.Sublinhado, atual.Tachado});
+        {atual.Nome, double(atual.Tamanho), atual.Negrito, atual.Italico, atual.Sublinhado, atual.Tachado},
+        s.Config.FontesImpressora);
     if (!f)
         return false;
     if (f->Nome.trimmed().isEmpty()) {

@@ -36,7 +36,7 @@ public:
         static constexpr Resposta r[] = {Resposta::Sim, Resposta::Nao, Resposta::Cancelar};
         return r[m_g() % 3];
     }
-    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &) override
+    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &, bool) override
     {
         if (m_g() % 2)
             return std::nullopt;

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QStringList>
 #include <deque>
+#include <vector>
 
 namespace lumeta::teste {
 
@@ -25,6 +26,7 @@ public:
     QList<MensagemVista> perguntas;
     QList<OpcoesArquivo> dialogos;
     std::deque<std::optional<FonteEscolhida>> fontes;  // answers of the font dialog
+    std::vector<bool> fontesSoImpressao;                // how each font dialog was asked
 
     void Mensagem(const QString &texto, const QString &titulo, Icone icone) override
     {
@@ -51,8 +53,9 @@ public:
         return r;
     }
 
-    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &) override
+    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &, bool soImpressao) override
     {
+        fontesSoImpressao.push_back(soImpressao);
         if (fontes.empty())
             return std::nullopt;
         const bool cancelado = !fontes.front().has_value();

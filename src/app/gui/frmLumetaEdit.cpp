@@ -4,7 +4,6 @@
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
-#include "controls/ui/CommonDialogCls.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
 #include "dialogs/LigacaoDialogos.h"
@@ -929,10 +928,13 @@ void frmLumetaEdit::copiarComandos()
 void frmLumetaEdit::escolherFontePadrao()
 {
     const FonteItem &f = m_sessao.FontePadrao;
-    FonteDialogo d{f.Nome, double(f.Tamanho), f.Negrito, f.Italico, f.Sublinhado, f.Tachado};
-    if (!CommonDialogCls::GetFont(d, this))
+    if (!m_sessao.Ui)
         return;
-    m_sessao.DefinirFontePadrao(d.Nome, d.Tamanho, d.Negrito, d.Italico, d.Sublinhado, d.Tachado);
+    const std::optional<FonteEscolhida> d = m_sessao.Ui->Fonte(
+        {f.Nome, double(f.Tamanho), f.Negrito, f.Italico, f.Sublinhado, f.Tachado}, m_sessao.Config.FontesImpressora);
+    if (!d)
+        return;
+    m_sessao.DefinirFontePadrao(d->Nome, d->Tamanho, d->Negrito, d->Italico, d->Sublinhado, d->Tachado);
 }
 
 void frmLumetaEdit::abrirAjuda(const QString &alvo, bool arquivo)

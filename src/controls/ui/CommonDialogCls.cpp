@@ -123,7 +123,7 @@ int CommonDialogCls::PickColor(int corInicial, QWidget *dono)
     return CorParaBGR(d.selectedColor());
 }
 
-bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono)
+bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono, bool soImpressao)
 {
     const QString nome = fonte.Nome.isEmpty() ? QStringLiteral("Arial") : fonte.Nome;
     QFont inicial(nome);
@@ -133,7 +133,7 @@ bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono)
     inicial.setUnderline(fonte.Sublinhado);
     inicial.setStrikeOut(fonte.Tachado);
     QFontDialog d(inicial, dono);
-    d.setOption(QFontDialog::ScalableFonts, false);
+    d.setOption(QFontDialog::ScalableFonts, soImpressao);
     // A family that is not installed (Arial on most Linux systems) is matched
     // to another one: the dialog shows the given name and keeps it unless
     // the user picks another family.

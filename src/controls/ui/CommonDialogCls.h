@@ -41,8 +41,8 @@ public:
     static int PickColor(int corInicial, QWidget *dono);
     // False when cancelled (`fonte` then unchanged). Bold is weight 700. A
     // name the system lacks comes back unchanged unless another family is
-    // picked.
-    static bool GetFont(FonteDialogo &fonte, QWidget *dono);
+    // picked. `soImpressao`: only scalable fonts, the ones a printer draws.
+    static bool GetFont(FonteDialogo &fonte, QWidget *dono, bool soImpressao = false);
 
     static int CorParaBGR(const QColor &c) { return c.red() | (c.green() << 8) | (c.blue() << 16); }
     static QColor BGRParaCor(int bgr) { return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF); }

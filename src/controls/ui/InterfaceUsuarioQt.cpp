@@ -134,10 +134,10 @@ std::optional<QString> InterfaceUsuarioQt::Entrada(const QString &pergunta, cons
     return r;
 }
 
-std::optional<FonteEscolhida> InterfaceUsuarioQt::Fonte(const FonteEscolhida &inicial)
+std::optional<FonteEscolhida> InterfaceUsuarioQt::Fonte(const FonteEscolhida &inicial, bool soImpressao)
 {
     FonteEscolhida f = inicial;
-    if (!CommonDialogCls::GetFont(f, m_dono))
+    if (!CommonDialogCls::GetFont(f, m_dono, soImpressao))
         return std::nullopt;
     return f;
 }

@@ -26,7 +26,7 @@ public:
     QString ArquivoSalvar(const OpcoesArquivo &opcoes) override;
     QString ArquivoAbrir(const OpcoesArquivo &opcoes) override;
     std::optional<QString> Entrada(const QString &pergunta, const QString &titulo, const QString &padrao) override;
-    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial) override;
+    std::optional<FonteEscolhida> Fonte(const FonteEscolhida &inicial, bool soImpressao) override;
     std::optional<int> Cor(int inicial) override;
 
 private:

@@ -328,9 +328,8 @@ TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
     ui.respostas = {Resposta::Nao};
     EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Recusado);
     ASSERT_EQ(ui.perguntas.size(), 1);
-    EXPECT_EQ(ui.perguntas[0].texto, cpy + QStringLiteral("\n\nO arquivo acima já existe!\n\nDeseja substituí-lo?"));
-    EXPECT_EQ(ui.perguntas[0].titulo, QStringLiteral("Salvar"));
-    EXPECT_EQ(ui.perguntas[0].icone, Icone::Pergunta);
+    EXPECT_EQ(std::tuple(ui.perguntas[0].texto, ui.perguntas[0].titulo, ui.perguntas[0].icone),
+              std::tuple(cpy + QStringLiteral("\n\nO arquivo acima já existe!\n\nDeseja substituí-lo?"), QStringLiteral("Salvar"), Icone::Pergunta));
     EXPECT_EQ(teste::LerArquivo(cpy), QByteArray("antigo"));
     ui.respostas = {Resposta::Sim};
     EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Gravado);
@@ -358,8 +357,7 @@ TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaS
     // No language chosen: only the layout.
     s.NomeArquivo = lmt;
     ASSERT_TRUE(s.SalvarLMT(false));
-    EXPECT_TRUE(QFile::exists(lmt));
-    EXPECT_FALSE(QFile::exists(cpy));
+    EXPECT_TRUE(QFile::exists(lmt) && !QFile::exists(cpy));
 
     // The setting is read at the moment of saving; the STRING choice comes
     // from the session's settings.
@@ -404,8 +402,7 @@ TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaS
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto,
               QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Sumiu.lin")) + QStringLiteral("' não foi encontrado!"));
-    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("tres.lmt"))));
-    EXPECT_FALSE(QFile::exists(caminho(QStringLiteral("tres.cpy"))));
+    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("tres.lmt"))) && !QFile::exists(caminho(QStringLiteral("tres.cpy"))));
 }
 
 namespace {

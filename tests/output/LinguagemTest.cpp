@@ -148,13 +148,8 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
         + QStringLiteral("' é inválido!");
     const QString curto = QStringLiteral("Ocorreu o erro 62 ao ler a linguagem!\n\nEntrada além do fim do arquivo");
 
-    const Bytes oito = [] {
-        Bytes b;
-        b.i32(1);
-        for (int i = 0; i < 8; ++i)
-            b.str("ab");
-        return b;
-    }();
+    Bytes oito;
+    oito.i32(1).str("ab").str("ab").str("ab").str("ab").str("ab").str("ab").str("ab").str("ab");
     struct Caso {
         const char *nome;
         QByteArray dados;

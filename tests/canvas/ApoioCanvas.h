@@ -35,6 +35,12 @@ inline std::function<bool(QRgb)> TintaDe(QColor cor)
     };
 }
 
+// Ink of exactly one colour (pictures, bars and lines are not antialiased).
+inline std::function<bool(QRgb)> Exata(QRgb cor)
+{
+    return [cor](QRgb c) { return (c & 0xFFFFFF) == (cor & 0xFFFFFF); };
+}
+
 inline int ContarPixels(const QImage &img, QRect area, QRgb cor)
 {
     area &= img.rect();
@@ -50,6 +56,24 @@ inline bool Todos(const QImage &img, QRect area, QRgb cor)
 {
     return ContarPixels(img, area, cor) == (area & img.rect()).width() * (area & img.rect()).height()
         && !(area & img.rect()).isEmpty();
+}
+
+// Whether the one-pixel outline of `r` has the colour all round.
+inline bool Contorno(const QImage &img, QRect r, QRgb cor)
+{
+    return Todos(img, QRect(r.left(), r.top(), r.width(), 1), cor) && Todos(img, QRect(r.left(), r.bottom(), r.width(), 1), cor)
+        && Todos(img, QRect(r.left(), r.top(), 1, r.height()), cor) && Todos(img, QRect(r.right(), r.top(), 1, r.height()), cor);
+}
+
+// Whether `img` shows `figura` at `origem`, each pixel repeated ex times
+// across and ey times down.
+inline bool Mostra(const QImage &img, QPoint origem, const QImage &figura, int ex = 1, int ey = 1)
+{
+    for (int y = 0; y < figura.height() * ey; ++y)
+        for (int x = 0; x < figura.width() * ex; ++x)
+            if (img.pixel(origem.x() + x, origem.y() + y) != figura.pixel(x / ex, y / ey))
+                return false;
+    return true;
 }
 
 }  // namespace lumeta::teste

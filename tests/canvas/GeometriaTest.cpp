@@ -1,24 +1,22 @@
+// Page geometry, the canvas size, scrolling to the selection, measuring units
+// and colour numbers.
+#include "canvas/Cores.h"
 #include "canvas/Geometria.h"
+#include "canvas/Unidades.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace lumeta;
 
 TEST(Geometria, MarcadorDaPaginaNasDuasOrientacoes)
 {
-    const MarcadorPagina r = MarcadorDaPagina(false);
-    EXPECT_EQ(r.x, 776);
-    EXPECT_EQ(r.y, 1043);
-    EXPECT_EQ(r.cor, 11);
-    EXPECT_EQ(r.rotulo, QStringLiteral("A4 (Retrato)"));
-    const MarcadorPagina p = MarcadorDaPagina(true);
-    EXPECT_EQ(p.x, 1035);
-    EXPECT_EQ(p.y, 784);
-    EXPECT_EQ(p.cor, 10);
-    EXPECT_EQ(p.rotulo, QStringLiteral("A4 (Paisagem)"));
+    const auto campos = [](const MarcadorPagina &m) { return std::tuple(m.x, m.y, m.cor, m.rotulo); };
+    EXPECT_EQ(campos(MarcadorDaPagina(false)), std::tuple(776, 1043, 11, QStringLiteral("A4 (Retrato)")));
+    EXPECT_EQ(campos(MarcadorDaPagina(true)), std::tuple(1035, 784, 10, QStringLiteral("A4 (Paisagem)")));
 }
 
-TEST(Geometria, TamanhoInicialECrescimento)
+TEST(Geometria, TamanhoInicialCrescimentoEMemoria)
 {
     CanvasPagina c;
     c.TamanhoInicial(800);
@@ -40,28 +38,20 @@ TEST(Geometria, TamanhoInicialECrescimento)
     doc.Bandas[0].Itens[1].Largura = 900;
     EXPECT_FALSE(c.CrescerLargura(doc));
     EXPECT_EQ(c.Tamanho.width(), 1192);
-
     EXPECT_FALSE(c.CrescerAltura(1056));  // 1120 - 64 is still inside
     EXPECT_TRUE(c.CrescerAltura(1057));
     EXPECT_EQ(c.Tamanho.height(), 1057 + 384);
 
-    c.TamanhoTotal = false;
-    EXPECT_FALSE(c.CrescerAltura(5000));
-    doc.Bandas[0].Itens[1].Largura = 5000;
-    EXPECT_FALSE(c.CrescerLargura(doc));
-}
-
-TEST(Geometria, VerificacaoDeMemoriaCaiPara2016)
-{
-    CanvasPagina c;
-    c.TamanhoInicial(1120);
-    EXPECT_TRUE(c.VerificarMemoria());
+    // Too large for memory: 2016 x 2016, and no more growing.
     c.LimiteMemoria = 3000LL * 3000 * 4;
     c.Tamanho = QSize(1120, 9000);
     EXPECT_FALSE(c.VerificarMemoria());
     EXPECT_FALSE(c.TamanhoTotal);
     EXPECT_EQ(c.Tamanho, QSize(2016, 2016));
     EXPECT_TRUE(c.VerificarMemoria());
+    EXPECT_FALSE(c.CrescerAltura(5000));
+    doc.Bandas[0].Itens[1].Largura = 5000;
+    EXPECT_FALSE(c.CrescerLargura(doc));
 
     CanvasPagina d;
     d.TamanhoInicial(1120);
@@ -101,4 +91,57 @@ TEST(Geometria, RolarParaMostrarOItemSelecionado)
     EXPECT_EQ(RolarParaSelecao(doc, 1, 1, QPoint(0, 5), vp, max), QPoint(0, 5));
     EXPECT_EQ(RolarParaSelecao(doc, 50, 0, QPoint(3, 4), vp, max), QPoint(3, 4));
     EXPECT_EQ(MaximoRolagem(QSize(1120, 2000), QSize(1200, 900)), QPoint(0, 1100));
+}
+
+TEST(Unidades, TabelaConversaoEFormatoDosCampos)
+{
+    // The mm and cm factors are the decimal constants, not 96 / 25.4. Any
+    // other code measures in pixels but the label stays as it was.
+    const auto campos = [](const Unidade &u) { return std::tuple(u.rotulo, u.fator, u.decimais, u.digitosInteiros); };
+    EXPECT_EQ(campos(UnidadeDe(3)), std::tuple(QStringLiteral("px"), 1.0, 0, 4));
+    EXPECT_EQ(campos(UnidadeDe(5)), std::tuple(QStringLiteral("pol"), 96.0, 5, 3));
+    EXPECT_EQ(campos(UnidadeDe(6)), std::tuple(QStringLiteral("mm"), 3.7795275, 2, 3));
+    EXPECT_EQ(campos(UnidadeDe(7)), std::tuple(QStringLiteral("cm"), 37.795275, 3, 2));
+    EXPECT_EQ(campos(UnidadeDe(1, QStringLiteral("mm"))), std::tuple(QStringLiteral("mm"), 1.0, 0, 4));
+
+    // Halves round to even; beyond the range, the ends of int32.
+    const std::tuple<double, int, int32_t> casos[] = {{10, 6, 38}, {2.5, 7, 94}, {2.5, 3, 2}, {3.5, 3, 4}, {-2.5, 3, -2},
+                                                      {0.5, 5, 48}, {1e12, 3, 2147483647}, {-1e12, 3, -2147483647 - 1}};
+    for (const auto &[valor, unidade, pixels] : casos)
+        EXPECT_EQ(UnidadeParaPixels(valor, UnidadeDe(unidade)), pixels) << valor << " " << unidade;
+    EXPECT_DOUBLE_EQ(PixelsParaUnidade(96, UnidadeDe(5)), 1.0);
+    EXPECT_DOUBLE_EQ(PixelsParaUnidade(38, UnidadeDe(6)), 38 / 3.7795275);
+    // What the field shows and what it stores again round-trips every height.
+    for (int u : {3, 5, 6, 7})
+        for (int32_t px : {1, 18, 37, 999, 32767})
+            EXPECT_EQ(UnidadeParaPixels(ArredondarCampo(PixelsParaUnidade(px, UnidadeDe(u)), UnidadeDe(u)), UnidadeDe(u)), px)
+                << u << " " << px;
+
+    EXPECT_EQ(TextoFormatoNumero(6, 2), QStringLiteral("6,2"));
+    EXPECT_EQ(TextoFormatoNumero(4, 0), QStringLiteral("4,0"));
+    EXPECT_DOUBLE_EQ(FormatoNumero(6, 2), 6.2);
+    const auto formatos = [](int u) {
+        const FormatosCampos f = FormatosDaUnidade(UnidadeDe(u));
+        return std::array{f.numTop, f.numLeft, f.numWidth, f.numHeight, f.numDeslocamento};
+    };
+    EXPECT_EQ(formatos(6), (std::array{6.2, 6.2, 3.2, 3.2, 3.2}));
+    EXPECT_EQ(formatos(3), (std::array{6.0, 6.0, 4.0, 4.0, 4.0}));
+    EXPECT_EQ(formatos(5), (std::array{6.5, 6.5, 3.5, 3.5, 3.5}));
+    EXPECT_EQ(formatos(7), (std::array{6.3, 6.3, 2.3, 2.3, 2.3}));
+}
+
+TEST(Cores, NumerosBasicosPaletaExtendidaESobreposicao)
+{
+    // Colour numbers are 0x00BBGGRR: basic 12 is light red, 11 light cyan.
+    const std::pair<int, int> cores[] = {{0, 0x000000}, {1, 0x800000}, {7, 0xC0C0C0}, {11, 0xFFFF00}, {12, 0x0000FF},
+                                         {15, 0xFFFFFF}, {16, 0xF8F8F8}, {17, 0xE7E7FF}, {16 + 8 * 4 + 5, 0xDEE708},
+                                         {79, 0x420042}, {99, 0}, {80, 0}, {-1, 0}};
+    for (const auto &[numero, cor] : cores)
+        EXPECT_EQ(NovaCor(numero), cor) << numero;
+    EXPECT_EQ(NovaCor(99, 0x123456), 0x123456);
+    EXPECT_EQ(NovaCor(5, 0), 0);
+    EXPECT_EQ(CarregarPaletaExtendida().size(), 64u);
+    EXPECT_EQ(CorQt(NovaCor(12)), QColor(255, 0, 0));
+    EXPECT_EQ(CorQt(NovaCor(11)), QColor(0, 255, 255));
+    EXPECT_EQ(CorQt(1 + 256 * 2 + 65536 * 3), QColor(1, 2, 3));
 }

@@ -4,9 +4,8 @@
 #include "canvas/Pintor.h"
 #include "editing/SessaoEdicao.h"
 #include "support/InterfaceRoteirizada.h"
+#include "support/TestSupport.h"
 
-#include <QFile>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -23,12 +22,9 @@ const QRgb Ciano = qRgb(0, 255, 255);    // basic colour 11
 const QRgb Verde = qRgb(0, 255, 0);      // basic colour 10
 const QRgb Preto = qRgb(0, 0, 0);
 
-Item NovoItem(const QString &texto, int largura = 64)
+Item Novo(const QString &texto, int largura = 64, uint8_t tipo = TipoTexto)
 {
-    Item it;
-    it.Texto = texto;
-    it.Largura = largura;
-    return it;
+    return teste::NovoItem(tipo, texto, 0, largura);
 }
 
 LayoutDocumento UmaBanda(const Item &it, int altura = 18)
@@ -42,14 +38,14 @@ LayoutDocumento UmaBanda(const Item &it, int altura = 18)
 }
 
 // The canvas a 1120 x 1120 window shows of a layout.
-QImage Pintar(LayoutDocumento &doc, QSize tamanho = QSize(1120, 1120))
+QImage Pintar(LayoutDocumento &doc)
 {
     SessaoEdicao s;
     s.Documento = doc;
     for (int b = 1; b <= doc.NumBandas(); ++b)
         s.Documento.ReposicionarItem(b);
     CanvasPagina canvas;
-    canvas.Tamanho = tamanho;
+    canvas.Tamanho = QSize(1120, 1120);
     RecursosCanvas recursos;
     ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
     doc = s.Documento;
@@ -57,6 +53,9 @@ QImage Pintar(LayoutDocumento &doc, QSize tamanho = QSize(1120, 1120))
 }
 
 QImage Pintar(LayoutDocumento &&doc) { return Pintar(doc); }
+
+// Where the light red text of a one-band layout lies.
+QRect TextoVermelho(const QImage &img) { return CaixaTinta(img, TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 200)); }
 
 }  // namespace
 
@@ -68,8 +67,7 @@ TEST(Pintor, LayoutVazioMostraSoOMarcadorDaPagina)
         const QImage img = Pintar(doc);
         const int x = paisagem ? 1035 : 776, y = paisagem ? 784 : 1043;
         const QRgb cor = paisagem ? Verde : Ciano;
-        EXPECT_TRUE(Todos(img, QRect(x, 0, 1, y + 1), cor)) << paisagem;
-        EXPECT_TRUE(Todos(img, QRect(0, y, x + 1, 1), cor)) << paisagem;
+        EXPECT_TRUE(Todos(img, QRect(x, 0, 1, y + 1), cor) && Todos(img, QRect(0, y, x + 1, 1), cor)) << paisagem;
         // The label in light red, at x + 2 from the top.
         const QRect rotulo = CaixaTinta(img, TintaDe(QColor(255, 0, 0)));
         ASSERT_FALSE(rotulo.isEmpty());
@@ -81,8 +79,7 @@ TEST(Pintor, LayoutVazioMostraSoOMarcadorDaPagina)
         int outros = 0;
         for (int yy = 0; yy < img.height(); ++yy)
             for (int xx = 0; xx < img.width(); ++xx)
-                if (NaoBranco(img.pixel(xx, yy)) && xx != x && yy != y && !QRect(x + 1, 0, 200, 14).contains(xx, yy))
-                    ++outros;
+                outros += NaoBranco(img.pixel(xx, yy)) && xx != x && yy != y && !QRect(x + 1, 0, 200, 14).contains(xx, yy);
         EXPECT_EQ(outros, 0) << paisagem;
     }
 }
@@ -90,37 +87,28 @@ TEST(Pintor, LayoutVazioMostraSoOMarcadorDaPagina)
 TEST(Pintor, ContornoFundoELinhasDaCelula)
 {
     // Band 1 at top 16, 30 high; item 64 wide at x 8: the cell is x 8..71, y 16..45.
-    Item it = NovoItem(QString());
+    Item it = Novo(QString());
+    const QRect celula(8, 16, 64, 30), volta = celula.adjusted(-3, -3, 3, 3);
     QImage img = Pintar(UmaBanda(it, 30));
-    const QRect celula(8, 16, 64, 30);
-    EXPECT_TRUE(Todos(img, QRect(8, 16, 64, 1), CinzaCelula));
-    EXPECT_TRUE(Todos(img, QRect(8, 45, 64, 1), CinzaCelula));
-    EXPECT_TRUE(Todos(img, QRect(8, 16, 1, 30), CinzaCelula));
-    EXPECT_TRUE(Todos(img, QRect(71, 16, 1, 30), CinzaCelula));
+    EXPECT_TRUE(Contorno(img, celula, CinzaCelula));
     EXPECT_TRUE(Todos(img, celula.adjusted(1, 1, -1, -1), Branco));
-    EXPECT_EQ(ContarPixels(img, celula.adjusted(-3, -3, 3, 3), CinzaCelula), 2 * 64 + 2 * 28);
+    EXPECT_EQ(ContarPixels(img, volta, CinzaCelula), 2 * 64 + 2 * 28);
 
-    // A background covers the outline exactly.
-    it.CorFundo = 12;
-    img = Pintar(UmaBanda(it, 30));
-    EXPECT_TRUE(Todos(img, celula, Vermelho));
-    EXPECT_EQ(ContarPixels(img, celula.adjusted(-3, -3, 3, 3), Vermelho), 64 * 30);
-    // An extended-palette background; an F macro overrides it, and makes a
+    // A background covers the outline exactly: basic, extended palette
+    // (0000C6, dark red), and an F macro that overrides it and makes a
     // transparent item opaque.
-    it.CorFundo = 16 + 8 * 5 + 1;  // 0000C6: dark red
-    EXPECT_TRUE(Todos(Pintar(UmaBanda(it, 30)), celula, qRgb(0xC6, 0, 0)));
-    it.CorFundo = CorTransparente;
-    it.Texto = QStringLiteral("<%_F,1,2,3_%>");
-    EXPECT_TRUE(Todos(Pintar(UmaBanda(it, 30)), celula, qRgb(1, 2, 3)));
-    it.CorFundo = 5;
-    EXPECT_TRUE(Todos(Pintar(UmaBanda(it, 30)), celula, qRgb(1, 2, 3)));
+    const struct { int fundo; const char *texto; QRgb cor; } fundos[] = {
+        {12, "", Vermelho}, {16 + 8 * 5 + 1, "", qRgb(0xC6, 0, 0)},
+        {CorTransparente, "<%_F,1,2,3_%>", qRgb(1, 2, 3)}, {5, "<%_F,1,2,3_%>", qRgb(1, 2, 3)}};
+    for (const auto &f : fundos) {
+        it.CorFundo = uint8_t(f.fundo);
+        it.Texto = QString::fromLatin1(f.texto);
+        img = Pintar(UmaBanda(it, 30));
+        EXPECT_TRUE(Todos(img, celula, f.cor) && ContarPixels(img, volta, f.cor) == 64 * 30) << f.fundo;
+    }
 
     // The six lines, thickness 3, cut from the cell.
-    struct Caso {
-        const char *linhas;
-        QRect esperado;
-    };
-    const Caso casos[] = {
+    const std::pair<const char *, QRect> casos[] = {
         {"0000100000", QRect(8, 16, 64, 3)},    // position 5: top
         {"0001000000", QRect(8, 43, 64, 3)},    // position 4: bottom
         {"0000010000", QRect(8, 16, 3, 30)},    // position 6: left
@@ -132,11 +120,11 @@ TEST(Pintor, ContornoFundoELinhasDaCelula)
     it.CorFundo = CorTransparente;
     it.CorLinha = 9;
     it.Espessura = 3;
-    for (const Caso &c : casos) {
-        it.Linhas = QString::fromLatin1(c.linhas);
+    for (const auto &[linhas, esperado] : casos) {
+        it.Linhas = QString::fromLatin1(linhas);
         img = Pintar(UmaBanda(it, 30));
-        EXPECT_TRUE(Todos(img, c.esperado, Azul)) << c.linhas;
-        EXPECT_EQ(ContarPixels(img, img.rect(), Azul), c.esperado.width() * c.esperado.height()) << c.linhas;
+        EXPECT_TRUE(Todos(img, esperado, Azul)) << linhas;
+        EXPECT_EQ(ContarPixels(img, img.rect(), Azul), esperado.width() * esperado.height()) << linhas;
     }
     // All six at once, in an L macro's colour; a thickness beyond the cell stays in it.
     it.Linhas = QStringLiteral("1111110000");
@@ -147,32 +135,26 @@ TEST(Pintor, ContornoFundoELinhasDaCelula)
     it.Espessura = 64;
     it.Texto.clear();
     img = Pintar(UmaBanda(it, 30));
-    EXPECT_TRUE(Todos(img, celula, Azul));
-    EXPECT_EQ(ContarPixels(img, img.rect(), Azul), 64 * 30);
+    EXPECT_TRUE(Todos(img, celula, Azul) && ContarPixels(img, img.rect(), Azul) == 64 * 30);
 }
 
 TEST(Pintor, TextoNaCelulaComCorRecorteEMacros)
 {
-    Item it = NovoItem(QStringLiteral("WWWWWWWWWWWW"), 40);
+    Item it = Novo(QStringLiteral("WWWWWWWWWWWW"), 40);
     it.CorTexto = 12;
-    QImage img = Pintar(UmaBanda(it));
     // The text rectangle is the cell less 2 pixels a side: x 10 .. 45, right edge out.
-    QRect t = CaixaTinta(img, TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100));
+    QRect t = TextoVermelho(Pintar(UmaBanda(it)));
     ASSERT_FALSE(t.isEmpty());
-    EXPECT_GE(t.left(), 10);
-    EXPECT_LE(t.right(), 44);
-    EXPECT_GE(t.top(), 16);
-    EXPECT_LE(t.bottom(), 32);
+    EXPECT_TRUE(QRect(QPoint(10, 16), QPoint(44, 32)).contains(t)) << t.x() << "," << t.y() << " " << t.width();
     // Position 8: no clipping.
     it.Atributos = QStringLiteral("0000100110");
-    t = CaixaTinta(Pintar(UmaBanda(it)), TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100));
-    EXPECT_GT(t.right(), 100);
+    EXPECT_GT(TextoVermelho(Pintar(UmaBanda(it))).right(), 100);
 
     // A T macro colours the text and is not shown.
     it.Atributos = QStringLiteral("0000100010");
     it.Texto = QStringLiteral("<%_T,0,128,0_%>WW");
-    img = Pintar(UmaBanda(it));
-    EXPECT_TRUE(CaixaTinta(img, TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100)).isEmpty());
+    QImage img = Pintar(UmaBanda(it));
+    EXPECT_TRUE(TextoVermelho(img).isEmpty());
     t = CaixaTinta(img, TintaDe(QColor(0, 128, 0)), QRect(0, 0, 300, 100));
     EXPECT_GE(t.left(), 10);
     EXPECT_LE(t.right(), 10 + 2 * 13);
@@ -187,54 +169,44 @@ TEST(Pintor, TextoNaCelulaComCorRecorteEMacros)
     // An item narrower than 5 pixels shows no text, but its outline.
     it.Largura = 4;
     img = Pintar(UmaBanda(it));
-    EXPECT_TRUE(CaixaTinta(img, TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100)).isEmpty());
+    EXPECT_TRUE(TextoVermelho(img).isEmpty());
     EXPECT_TRUE(Todos(img, QRect(8, 16, 4, 1), CinzaCelula));
 
     // Justify (position 7 bit 1) overrides centre: the text starts at the left.
     it.Largura = 200;
     it.Texto = QStringLiteral("Texto");
     it.Atributos = QStringLiteral("1000101010");
-    const QRect justificado = CaixaTinta(Pintar(UmaBanda(it)), TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100));
+    EXPECT_LE(TextoVermelho(Pintar(UmaBanda(it))).left(), 11);
     it.Atributos = QStringLiteral("1000100010");
-    const QRect centrado = CaixaTinta(Pintar(UmaBanda(it)), TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 100));
-    EXPECT_LE(justificado.left(), 11);
-    EXPECT_GT(centrado.left(), 80);
+    EXPECT_GT(TextoVermelho(Pintar(UmaBanda(it))).left(), 80);
 }
 
 TEST(Pintor, TextoGiradoCaiNoQuadranteDoPontoInicial)
 {
     // A 100 x 100 cell at (8, 16); the text area is x 10 .. 105.
-    Item it = NovoItem(QStringLiteral("Abc"), 100);
+    Item it = Novo(QStringLiteral("Abc"), 100);
     it.CorTexto = 12;
-    struct Caso {
-        char digito;
-        bool direita;
-        bool baixo;
-    };
-    for (const Caso c : {Caso{'0', false, false}, Caso{'2', false, true}, Caso{'4', true, true}, Caso{'8', true, false}}) {
+    const struct { char digito; bool direita, baixo; } casos[] = {
+        {'0', false, false}, {'2', false, true}, {'4', true, true}, {'8', true, false}};
+    for (const auto &c : casos) {
         it.Atributos = QStringLiteral("000010") + QLatin1Char(c.digito) + QStringLiteral("010");
-        const QImage img = Pintar(UmaBanda(it, 100));
-        const QRect t = CaixaTinta(img, TintaDe(QColor(255, 0, 0)), QRect(0, 0, 300, 200));
+        const QRect t = TextoVermelho(Pintar(UmaBanda(it, 100)));
         ASSERT_FALSE(t.isEmpty()) << c.digito;
-        const QRect quadrante(c.direita ? 58 : 8, c.baixo ? 66 : 16, 50, 50);
-        EXPECT_TRUE(quadrante.contains(t)) << c.digito << ": " << t.x() << "," << t.y() << " " << t.width() << "x" << t.height();
+        EXPECT_TRUE(QRect(c.direita ? 58 : 8, c.baixo ? 66 : 16, 50, 50).contains(t))
+            << c.digito << ": " << t.x() << "," << t.y() << " " << t.width() << "x" << t.height();
     }
-    // 9 = justify + 270 degrees.
+    // 9 = justify + 270 degrees; no angle bit; 2 wins over 4.
     EXPECT_EQ(AnguloAtributos(QStringLiteral("0000109010")), 270);
     EXPECT_TRUE(Justificar(QStringLiteral("0000109010")));
     EXPECT_EQ(AnguloAtributos(QStringLiteral("000010E010")), 0);
-    EXPECT_EQ(AnguloAtributos(QStringLiteral("0000106010")), 90);  // 2 wins over 4
+    EXPECT_EQ(AnguloAtributos(QStringLiteral("0000106010")), 90);
 }
 
 TEST(Pintor, MarcasDeQuebraDePaginaEComentario)
 {
     LayoutDocumento doc;
-    for (int i = 0; i < 3; ++i) {
-        Banda b;
-        b.Altura = 20;
-        b.Itens = {NovoItem(QString())};
-        doc.Bandas.append(b);
-    }
+    for (int i = 0; i < 3; ++i)
+        doc.Bandas.append(UmaBanda(Novo(QString()), 20).Bandas[0]);
     doc.banda(1).Comentario = QStringLiteral("* só comentário");
     doc.banda(2).Comentario = QStringLiteral("* com quebra");
     doc.Quebras = {2, 3};
@@ -260,16 +232,12 @@ TEST(Pintor, MarcasDeQuebraDePaginaEComentario)
 
 TEST(Pintor, BandaAutomaticaPintadaComAAlturaCalculada)
 {
-    LayoutDocumento doc = UmaBanda(NovoItem(QStringLiteral("Texto 1")), 0);
-    Banda segunda;
-    segunda.Altura = 18;
-    segunda.Itens = {NovoItem(QString())};
-    doc.Bandas.append(segunda);
+    LayoutDocumento doc = UmaBanda(Novo(QStringLiteral("Texto 1")), 0);
+    doc.Bandas.append(UmaBanda(Novo(QString())).Bandas[0]);
     const QImage img = Pintar(doc);
     EXPECT_EQ(doc.banda(1).Altura, -19);
     EXPECT_EQ(doc.banda(2).Topo, 35);
-    EXPECT_TRUE(Todos(img, QRect(8, 34, 64, 1), CinzaCelula));  // bottom of band 1
-    EXPECT_TRUE(Todos(img, QRect(8, 35, 64, 1), CinzaCelula));  // top of band 2
+    EXPECT_TRUE(Todos(img, QRect(8, 34, 64, 2), CinzaCelula));  // bottom of band 1, top of band 2
 }
 
 TEST(Pintor, FigurasDeArquivoErroEMarcador)
@@ -281,23 +249,13 @@ TEST(Pintor, FigurasDeArquivoErroEMarcador)
     const QString bmp = dir.filePath(QStringLiteral("f.bmp"));
     ASSERT_TRUE(vermelha.save(bmp, "BMP"));
 
-    // Positions in a 64 x 30 cell at (8, 16): left/top, centre (1, 4), far edge (2, 8).
-    struct Caso {
-        const char *atributos;
-        QPoint pos;
-    };
-    const Caso casos[] = {
-        {"0000100010", QPoint(8, 16)},
-        {"1010100010", QPoint(8 + 28, 16 + 12)},  // round(55 / 2) and round(25 / 2), halves to even
-        {"0101100010", QPoint(72 - 10, 46 - 6)},
-    };
-    Item it = NovoItem(QStringLiteral("\"") + bmp + QStringLiteral("\""));
-    it.Tipo = TipoFigura;
-    for (const Caso &c : casos) {
-        it.Atributos = QString::fromLatin1(c.atributos);
-        const QImage img = Pintar(UmaBanda(it, 30));
-        EXPECT_EQ(CaixaTinta(img, [](QRgb p) { return (p & 0xFFFFFF) == 0xFF0000; }), QRect(c.pos, QSize(10, 6)))
-            << c.atributos;
+    // Positions in a 64 x 30 cell at (8, 16): left/top, centre (1, 4), far
+    // edge (2, 8); the centre is round(55 / 2) and round(25 / 2), halves to even.
+    Item it = Novo(QStringLiteral("\"") + bmp + QStringLiteral("\""), 64, TipoFigura);
+    for (const auto &[atributos, pos] : {std::pair{"0000100010", QPoint(8, 16)}, std::pair{"1010100010", QPoint(8 + 28, 16 + 12)},
+                                         std::pair{"0101100010", QPoint(72 - 10, 46 - 6)}}) {
+        it.Atributos = QString::fromLatin1(atributos);
+        EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it, 30)), Exata(Vermelho)), QRect(pos, QSize(10, 6))) << atributos;
     }
 
     // A picture keeps its size: it is neither scaled nor cut by the cell.
@@ -307,74 +265,51 @@ TEST(Pintor, FigurasDeArquivoErroEMarcador)
     ASSERT_TRUE(grande.save(g, "JPG", 100));
     it.Texto = QStringLiteral("  \"") + g + QStringLiteral("\" ");
     it.Atributos = QStringLiteral("0000100010");
-    QImage img = Pintar(UmaBanda(it, 18));
-    EXPECT_EQ(CaixaTinta(img, TintaDe(QColor(0, 0, 255))), QRect(8, 16, 40, 50));
+    EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it)), TintaDe(QColor(0, 0, 255))), QRect(8, 16, 40, 50));
 
     // GIF, ICO and CUR load as well.
-    const QByteArray gif = QByteArray::fromHex(
-        "47494638396101000100800000ff00000000002c00000000010001000002024401003b");
-    const QString gifPath = dir.filePath(QStringLiteral("p.gif"));
-    QFile f(gifPath);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(gif);
-    f.close();
-    it.Texto = gifPath;
-    img = Pintar(UmaBanda(it, 18));
+    it.Texto = dir.filePath(QStringLiteral("p.gif"));
+    GravarArquivoTeste(it.Texto, QByteArray::fromHex("47494638396101000100800000ff00000000002c00000000010001000002024401003b"));
+    QImage img = Pintar(UmaBanda(it));
     EXPECT_EQ(img.pixel(8, 16), Vermelho);
     EXPECT_EQ(img.pixel(9, 16), CinzaCelula);
     for (const char *formato : {"ico", "cur"}) {
         QImage icone(16, 16, QImage::Format_ARGB32);
         icone.fill(QColor(0, 128, 0));
-        const QString caminho = dir.filePath(QStringLiteral("i.") + QLatin1String(formato));
-        ASSERT_TRUE(icone.save(caminho, formato)) << formato;
-        it.Texto = caminho;
-        img = Pintar(UmaBanda(it, 18));
-        EXPECT_EQ(CaixaTinta(img, [](QRgb p) { return (p & 0xFFFFFF) == 0x008000; }), QRect(8, 16, 16, 16)) << formato;
+        it.Texto = dir.filePath(QStringLiteral("i.") + QLatin1String(formato));
+        ASSERT_TRUE(icone.save(it.Texto, formato)) << formato;
+        EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it)), Exata(qRgb(0, 128, 0))), QRect(8, 16, 16, 16)) << formato;
     }
 
     // A missing file, a format the viewer cannot load and an empty name.
-    auto mostra = [&](const QImage &pintada, const QImage &esperada) {
-        for (int y = 0; y < esperada.height(); ++y)
-            for (int x = 0; x < esperada.width(); ++x)
-                if (pintada.pixel(8 + x, 16 + y) != esperada.pixel(x, y))
-                    return false;
-        return true;
-    };
     it.Texto = dir.filePath(QStringLiteral("nao_existe.bmp"));
-    EXPECT_TRUE(mostra(Pintar(UmaBanda(it, 18)), ImagemErro()));
-    const QString png = dir.filePath(QStringLiteral("x.png"));
-    ASSERT_TRUE(vermelha.save(png, "PNG"));
-    it.Texto = png;
-    EXPECT_TRUE(mostra(Pintar(UmaBanda(it, 18)), ImagemErro()));
+    EXPECT_TRUE(Mostra(Pintar(UmaBanda(it)), QPoint(8, 16), ImagemErro()));
+    it.Texto = dir.filePath(QStringLiteral("x.png"));
+    ASSERT_TRUE(vermelha.save(it.Texto, "PNG"));
+    EXPECT_TRUE(Mostra(Pintar(UmaBanda(it)), QPoint(8, 16), ImagemErro()));
     it.Texto = QStringLiteral("\"\"");
-    EXPECT_TRUE(mostra(Pintar(UmaBanda(it, 40)), ImagemFigura()));
-    EXPECT_FALSE(mostra(Pintar(UmaBanda(it, 40)), ImagemErro()));
+    img = Pintar(UmaBanda(it, 40));
+    EXPECT_TRUE(Mostra(img, QPoint(8, 16), ImagemFigura()));
+    EXPECT_FALSE(Mostra(img, QPoint(8, 16), ImagemErro()));
 }
 
 TEST(Pintor, AlturaDasBarrasDoCodigo)
 {
-    Item it = NovoItem(QString(), 120);
-    it.Tipo = TipoCode128B;
-    auto altura = [&](const char *atributos, int banda) {
-        it.Atributos = QString::fromLatin1(atributos);
-        return AlturaBarrasCodigo(it, banda);
-    };
-    // Clipped (position 8 "0"): the band less 12, but 40 at most unless resized.
-    EXPECT_EQ(altura("0000000000", 30), 18);
-    EXPECT_EQ(altura("0000000000", 52), 40);
-    EXPECT_EQ(altura("0000000000", 53), 40);
-    EXPECT_EQ(altura("0000000001", 80), 68);
-    EXPECT_EQ(altura("0000001000", 30), 30);     // digits hidden: the whole band
-    // Not clipped: 40, or at least 40 when resized.
-    EXPECT_EQ(altura("0000000100", 30), 40);
-    EXPECT_EQ(altura("0000000100", 90), 40);
-    EXPECT_EQ(altura("0000000101", 30), 40);
-    EXPECT_EQ(altura("0000000101", 90), 78);
-    // At 90 and 270 degrees the item's width stands for the band.
-    EXPECT_EQ(altura("0000002001", 30), 108);
-    EXPECT_EQ(altura("0000008000", 30), 40);
+    Item it = Novo(QString(), 120, TipoCode128B);
+    // Clipped (position 8 "0"): the band less 12, but 40 at most unless
+    // resized; digits hidden: the whole band. Not clipped: 40, or at least 40
+    // when resized. At 90 and 270 degrees the item's width stands for the band.
+    const struct { const char *atributos; int banda, altura; } casos[] = {
+        {"0000000000", 30, 18}, {"0000000000", 52, 40}, {"0000000000", 53, 40}, {"0000000001", 80, 68},
+        {"0000001000", 30, 30}, {"0000000100", 30, 40}, {"0000000100", 90, 40}, {"0000000101", 30, 40},
+        {"0000000101", 90, 78}, {"0000002001", 30, 108}, {"0000008000", 30, 40}};
+    for (const auto &c : casos) {
+        it.Atributos = QString::fromLatin1(c.atributos);
+        EXPECT_EQ(AlturaBarrasCodigo(it, c.banda), c.altura) << c.atributos << " " << c.banda;
+    }
     // Type 37 never shows its digits.
     it.Tipo = TipoInterlace25SemNumeros;
+    it.Atributos = QStringLiteral("0000000000");
     EXPECT_FALSE(MostrarDigitosCodigo(it));
     it.Tipo = TipoInterlace25;
     EXPECT_TRUE(MostrarDigitosCodigo(it));
@@ -387,69 +322,45 @@ TEST(Pintor, Intercalado25SemNumerosTemOTamanhoDoComNumeros)
     // Stretched to an 80-pixel band: type 35 has 68 rows of bars and 12 of
     // digits; type 37 has no digits and its bars take their 12 rows, so both
     // fill the band and nothing runs out of it.
-    const auto preto = [](QRgb p) { return (p & 0xFFFFFF) == 0; };
     for (const auto &[tipo, atributos] : {std::pair{TipoInterlace25SemNumeros, "0000000001"},
                                           std::pair{TipoInterlace25SemNumeros, "0000001001"},
                                           std::pair{TipoInterlace25, "0000000001"}}) {
-        Item it = NovoItem(QStringLiteral("\"1234\""), 200);
-        it.Tipo = tipo;
+        Item it = Novo(QStringLiteral("\"1234\""), 200, tipo);
         it.Atributos = QString::fromLatin1(atributos);
         const QImage img = Pintar(UmaBanda(it, 80));
-        const QRect tinta = CaixaTinta(img, preto, QRect(8, 0, 200, 200));
-        EXPECT_EQ(tinta.top(), 16) << tipo;
-        EXPECT_LE(tinta.bottom(), 16 + 79) << tipo;
+        const QRect tinta = CaixaTinta(img, Exata(Preto), QRect(8, 0, 200, 200));
+        EXPECT_EQ(tinta.top(), 16) << atributos;
+        EXPECT_LE(tinta.bottom(), 16 + 79) << atributos;
         // The first bar (start pattern) of a symbol without digits reaches the band's bottom row.
-        if (tipo == TipoInterlace25SemNumeros)
-            EXPECT_TRUE(Todos(img, QRect(9, 16, 1, 80), Preto)) << atributos;
-        else
-            EXPECT_TRUE(Todos(img, QRect(9, 16, 1, 68), Preto));
+        EXPECT_TRUE(Todos(img, QRect(9, 16, 1, tipo == TipoInterlace25 ? 68 : 80), Preto)) << atributos;
     }
 }
 
 TEST(Pintor, CodigoDeBarrasAmpliadoEPosicionado)
 {
     // A field name shows the sample value; magnification 2 doubles the length.
-    Item it = NovoItem(QStringLiteral("WS-CODIGO"), 300);
-    it.Tipo = TipoCode128B;
+    Item it = Novo(QStringLiteral("WS-CODIGO"), 300, TipoCode128B);
     it.Atributos = QStringLiteral("0000000020");
     QImage img = Pintar(UmaBanda(it, 60));
     const QImage simbolo = DesenharCodigoBarras(TipoCode128B, QStringLiteral("0123456789"), 40, true, 0);
-    ASSERT_FALSE(simbolo.isNull());
     ASSERT_EQ(simbolo.height(), 52);
-    bool igual = true;
-    for (int y = 0; y < simbolo.height() && igual; ++y)
-        for (int x = 0; x < simbolo.width() * 2 && igual; ++x) {
-            igual = img.pixel(8 + x, 16 + y) == simbolo.pixel(x / 2, y);
-            if (!igual)
-                ADD_FAILURE() << x << "," << y << " " << std::hex << img.pixel(8 + x, 16 + y) << " " << simbolo.pixel(x / 2, y);
-        }
-    EXPECT_TRUE(igual);
+    EXPECT_TRUE(Mostra(img, QPoint(8, 16), simbolo, 2, 1));
     EXPECT_EQ(img.pixel(8 + 2 * simbolo.width() + 1, 16 + 20), Branco);
 
     // A quoted value is used as it stands; centred in both directions.
     it.Texto = QStringLiteral("\"ABC\"");
     it.Atributos = QStringLiteral("1010000010");
-    img = Pintar(UmaBanda(it, 60));
     const QImage abc = DesenharCodigoBarras(TipoCode128B, QStringLiteral("ABC"), 40, true, 0);
     const QPoint pos(8 + int(std::nearbyint((301 - abc.width()) / 2.0)), 16 + int(std::nearbyint((61 - 52) / 2.0)));
-    igual = true;
-    for (int y = 0; y < abc.height() && igual; ++y)
-        for (int x = 0; x < abc.width() && igual; ++x)
-            igual = img.pixel(pos.x() + x, pos.y() + y) == abc.pixel(x, y);
-    EXPECT_TRUE(igual);
+    EXPECT_TRUE(Mostra(Pintar(UmaBanda(it, 60)), pos, abc));
 
     // Turned 90 degrees and magnified 3: the length runs down, three times;
     // across, the item's 60 pixels less 12 would be 48, capped at 40.
     it.Atributos = QStringLiteral("0000002030");
     it.Largura = 60;
-    img = Pintar(UmaBanda(it, 400));
     const QImage deitado = DesenharCodigoBarras(TipoCode128B, QStringLiteral("ABC"), 40, true, 90);
     ASSERT_EQ(deitado.width(), 52);
-    igual = true;
-    for (int y = 0; y < deitado.height() * 3 && igual; ++y)
-        for (int x = 0; x < deitado.width() && igual; ++x)
-            igual = img.pixel(8 + x, 16 + y) == deitado.pixel(x, y / 3);
-    EXPECT_TRUE(igual);
+    EXPECT_TRUE(Mostra(Pintar(UmaBanda(it, 400)), QPoint(8, 16), deitado, 1, 3));
 
     // PDF417 grows across its rows.
     it.Tipo = TipoPDF417;
@@ -458,14 +369,12 @@ TEST(Pintor, CodigoDeBarrasAmpliadoEPosicionado)
     img = Pintar(UmaBanda(it, 300));
     const QImage pdf = DesenharCodigoBarras(TipoPDF417, QStringLiteral("ABC"), 0, true, 0);
     ASSERT_FALSE(pdf.isNull());
-    EXPECT_EQ(CaixaTinta(img, [](QRgb p) { return (p & 0xFFFFFF) == 0; }, QRect(8, 16, 400, 300)).height(),
-              CaixaTinta(pdf, [](QRgb p) { return (p & 0xFFFFFF) == 0; }).height() * 2);
+    EXPECT_EQ(CaixaTinta(img, Exata(Preto), QRect(8, 16, 400, 300)).height(), CaixaTinta(pdf, Exata(Preto)).height() * 2);
 }
 
 TEST(Pintor, BarraDeGrafico)
 {
-    Item it = NovoItem(QStringLiteral("\"25\""));
-    it.Tipo = TipoBarraGrafico;
+    Item it = Novo(QStringLiteral("\"25\""), 64, TipoBarraGrafico);
     it.Atributos = QStringLiteral("0001100010");  // bottom
     it.CorTexto = 9;
     it.CorFundo = 12;
@@ -475,10 +384,7 @@ TEST(Pintor, BarraDeGrafico)
     // ...and no background: a blue bar 64 x 25 on the bottom, outlined in red.
     const QRect barra(8, 56 - 25, 64, 25);
     EXPECT_TRUE(Todos(img, barra.adjusted(1, 1, -1, -1), Azul));
-    EXPECT_TRUE(Todos(img, QRect(8, 31, 64, 1), Vermelho));
-    EXPECT_TRUE(Todos(img, QRect(8, 55, 64, 1), Vermelho));
-    EXPECT_TRUE(Todos(img, QRect(8, 31, 1, 25), Vermelho));
-    EXPECT_TRUE(Todos(img, QRect(71, 31, 1, 25), Vermelho));
+    EXPECT_TRUE(Contorno(img, barra, Vermelho));
     EXPECT_EQ(ContarPixels(img, img.rect(), Vermelho), 2 * 64 + 2 * 23);
     EXPECT_EQ(ContarPixels(img, img.rect(), qRgb(0, 128, 0)), 0);
     EXPECT_TRUE(Todos(img, QRect(9, 17, 62, 13), Branco));
@@ -489,14 +395,12 @@ TEST(Pintor, BarraDeGrafico)
     for (auto [texto, altura] : {std::pair{"WS-VALOR", 10}, std::pair{"\"-7\"", 7}, std::pair{"\"0\"", 1},
                                  std::pair{"\"12,6\"", 12}, std::pair{"\"12.6\"", 13}}) {
         it.Texto = QString::fromLatin1(texto);
-        img = Pintar(UmaBanda(it, 40));
-        EXPECT_EQ(CaixaTinta(img, [](QRgb p) { return (p & 0xFFFFFF) == 0x0000FF; }), QRect(8, 16, 64, altura)) << texto;
+        EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it, 40)), Exata(Azul)), QRect(8, 16, 64, altura)) << texto;
     }
     // Colour 80 or more: a black bar.
     it.CorTexto = 80;
     it.Texto = QStringLiteral("\"5\"");
-    img = Pintar(UmaBanda(it, 40));
-    EXPECT_TRUE(Todos(img, QRect(8, 16, 64, 5), Preto));
+    EXPECT_TRUE(Todos(Pintar(UmaBanda(it, 40)), QRect(8, 16, 64, 5), Preto));
 }
 
 TEST(Pintor, CrescimentoDoCanvasEMemoria)
@@ -523,18 +427,16 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
     for (int i = 0; i < 100; ++i)
         s.AddBanda(0, false, 18, 0);
     canvas.LimiteMemoria = 2100LL * 2100 * 4;
-    r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
-    EXPECT_TRUE(r.memoriaInsuficiente);
-    EXPECT_FALSE(canvas.TamanhoTotal);
-    EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
-    ASSERT_EQ(ui.mensagens.size(), 1);
+    for (bool primeira : {true, false}) {
+        r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
+        EXPECT_EQ(r.memoriaInsuficiente, primeira);
+        EXPECT_FALSE(canvas.TamanhoTotal);
+        EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
+        ASSERT_EQ(ui.mensagens.size(), 1);
+    }
     EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Memória insuficiente para exibir o layout no tamanho total!"));
     EXPECT_EQ(ui.mensagens[0].titulo, TituloAplicacao);
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
-    r = ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
-    EXPECT_FALSE(r.memoriaInsuficiente);
-    EXPECT_EQ(ui.mensagens.size(), 1);
-    EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
 }
 
 TEST(Pintor, MarcasDeSelecaoSoQuandoPedidas)
@@ -544,12 +446,10 @@ TEST(Pintor, MarcasDeSelecaoSoQuandoPedidas)
     CanvasPagina canvas;
     RecursosCanvas recursos;
     ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
-    const QImage sem = canvas.Imagem.copy();
+    EXPECT_EQ(ContarPixels(canvas.Imagem, canvas.Imagem.rect(), qRgb(0, 0, 128)), 0);
     OpcoesPintura op;
     op.marcarSelecao = true;
-    op.bandaSelecionada = 1;
-    op.itemSelecionado = 1;
+    op.bandaSelecionada = op.itemSelecionado = 1;
     ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui, op);
-    EXPECT_EQ(ContarPixels(sem, sem.rect(), qRgb(0, 0, 128)), 0);
     EXPECT_TRUE(Todos(canvas.Imagem, QRect(8, 16, 64, 1), qRgb(0, 0, 128)));
 }

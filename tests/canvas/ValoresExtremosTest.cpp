@@ -46,10 +46,8 @@ TEST(ValoresExtremos, PosicoesParamNosLimitesEOLayoutAbre)
     SessaoEdicao editor;
     ASSERT_EQ(editor.AbrirLMT(caminho), SessaoEdicao::ResultadoAbrir::Aberto);
     const LayoutDocumento &d = editor.Documento;
-    EXPECT_EQ(d.banda(1).Itens[1].Esquerda, Max);
-    EXPECT_EQ(d.banda(1).Itens[2].Esquerda, Max);
-    EXPECT_EQ(d.banda(2).Itens[1].Esquerda, Min);
-    EXPECT_EQ(d.banda(2).Itens[2].Esquerda, Min);
+    EXPECT_EQ((std::array{d.banda(1).Itens[1].Esquerda, d.banda(1).Itens[2].Esquerda, d.banda(2).Itens[1].Esquerda,
+                          d.banda(2).Itens[2].Esquerda}), (std::array{Max, Max, Min, Min}));
     EXPECT_EQ(d.banda(2).Topo, 16);   // pulled up to the band before it, no further
     EXPECT_EQ(d.banda(3).Topo, Max);  // pushed down as far as a position goes
     for (int b = 2; b <= d.NumBandas(); ++b)
@@ -62,6 +60,5 @@ TEST(ValoresExtremos, PosicoesParamNosLimitesEOLayoutAbre)
         editor.ItemSelecionado = 1;
         editor.ConcluirEdicao();
     }
-    const QPoint rolagem = RolarParaSelecao(d, 1, 2, QPoint(0, 0), QSize(800, 600), QPoint(5000, 5000));
-    EXPECT_EQ(rolagem, QPoint(5000, 5000));
+    EXPECT_EQ(RolarParaSelecao(d, 1, 2, QPoint(0, 0), QSize(800, 600), QPoint(5000, 5000)), QPoint(5000, 5000));
 }

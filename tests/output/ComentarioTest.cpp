@@ -24,10 +24,9 @@ TEST(Comentario, DuasPartesNumTexto)
 
 TEST(Comentario, LinhaEColunaDoCursor)
 {
-    EXPECT_EQ(LinhaColuna(QStringLiteral("ab\nc"), 4), QStringLiteral("(2, 2)"));
-    EXPECT_EQ(LinhaColuna(QStringLiteral("ab\nc"), 2), QStringLiteral("(1, 3)"));
-    EXPECT_EQ(LinhaColuna(QStringLiteral("ab\n"), 3), QStringLiteral("(2, 1)"));
-    EXPECT_EQ(LinhaColuna(QString(), 0), QStringLiteral("(1, 1)"));
+    for (auto [texto, pos, linhaColuna] : {std::tuple{"ab\nc", 4, "(2, 2)"}, std::tuple{"ab\nc", 2, "(1, 3)"},
+                                           std::tuple{"ab\n", 3, "(2, 1)"}, std::tuple{"", 0, "(1, 1)"}})
+        EXPECT_EQ(LinhaColuna(QString::fromLatin1(texto), pos), QString::fromLatin1(linhaColuna)) << texto << pos;
 }
 
 TEST(Comentario, CodigoDasFerramentas)

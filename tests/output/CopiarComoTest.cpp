@@ -36,71 +36,41 @@ QString em(int n)
     return QString(n, QLatin1Char(' '));
 }
 
-// The item of the command text's own example: "Total", 200 pixels at 0.
-LayoutDocumento layoutDoExemplo(const QString &texto)
+// The COBOL code of the command text's own example: one item of 200 pixels
+// at 0, only the text template filled (the other templates are empty).
+QStringList codigoDoExemplo(const QString &texto, bool cobolString)
 {
     LayoutDocumento doc;
-    Banda b;
-    Item it;
-    it.Texto = texto;
-    it.Largura = 200;
-    b.Itens.append(it);
-    doc.Bandas.append(b);
-    return doc;
-}
-
-LinguagemDef cobolDoExemplo(bool cobolString)
-{
+    doc.Bandas.append(Banda{});
+    doc.Bandas[0].Itens.append(teste::NovoItem(TipoTexto, texto, 0, 200));
     LinguagemDef l;
     l.ComandoT = QStringLiteral("           move \"§c§cl§cf§ei§ci§ai§t\" to WS-LINHA.");
     l.EhCobol = true;
     l.CobolString = cobolString;
-    return l;
-}
-
-// Only the lines the text template produced (the other templates are empty).
-QStringList linhasNaoVazias(const QString &codigo)
-{
-    QStringList r;
-    for (const QString &l : codigo.split(kCRLF))
-        if (!l.isEmpty())
-            r.append(l);
-    return r;
+    return GerarCopiarComo(doc, l).split(kCRLF, Qt::SkipEmptyParts);
 }
 
 }  // namespace
 
 TEST(CopiarComo, ExemploDoMoveCurtoMantidoELongoQuebradoNasDuasFormas)
 {
-    const QString curta = QStringLiteral("           move \"T 009900002001960000100010Total\" to WS-LINHA.");
-    ASSERT_EQ(curta.size(), 62);
     for (bool forma : {false, true})
-        EXPECT_EQ(linhasNaoVazias(GerarCopiarComo(layoutDoExemplo(QStringLiteral("Total")), cobolDoExemplo(forma))),
-                  QStringList{curta});
-
-    const QString quarenta = QStringLiteral("Relatorio mensal de vendas por filial 01");
-    ASSERT_EQ(quarenta.size(), 40);
-    const LayoutDocumento doc = layoutDoExemplo(quarenta);
+        EXPECT_EQ(codigoDoExemplo(QStringLiteral("Total"), forma),
+                  QStringList{"           move \"T 009900002001960000100010Total\" to WS-LINHA."});
 
     // Continuation: the open literal runs to column 72, goes on after a "-" in
     // column 7, and the rest of the statement follows on its own line.
-    const QStringList continuacao = linhasNaoVazias(GerarCopiarComo(doc, cobolDoExemplo(false)));
-    ASSERT_EQ(continuacao.size(), 3);
-    EXPECT_EQ(continuacao[0], QStringLiteral("           move \"T 009900002001960000100010Relatorio mensal de vendas po"));
-    EXPECT_EQ(continuacao[0].size(), 72);
-    EXPECT_EQ(continuacao[1], QStringLiteral("      -    \"r filial 01\""));
-    EXPECT_EQ(continuacao[1].size(), 11 + 1 + 12);
-    EXPECT_EQ(continuacao[2], em(14) + QStringLiteral(" to WS-LINHA."));
+    const QString quarenta = QStringLiteral("Relatorio mensal de vendas por filial 01");
+    EXPECT_EQ(codigoDoExemplo(quarenta, false),
+              (QStringList{"           move \"T 009900002001960000100010Relatorio mensal de vendas po",
+                           "      -    \"r filial 01\"", em(14) + " to WS-LINHA."}));
 
     // STRING: the target is cleared, the literal is cut into closed pieces
     // ending in column 72, and "to" becomes "delimited by size into".
-    const QStringList string = linhasNaoVazias(GerarCopiarComo(doc, cobolDoExemplo(true)));
-    ASSERT_EQ(string.size(), 4);
-    EXPECT_EQ(string[0], QStringLiteral("           move spaces to WS-LINHA."));
-    EXPECT_EQ(string[1], QStringLiteral("           string \"T 009900002001960000100010Relatorio mensal de vendas\""));
-    EXPECT_EQ(string[1].size(), 72);
-    EXPECT_EQ(string[2], QStringLiteral("           \" por filial 01\""));
-    EXPECT_EQ(string[3], em(14) + QStringLiteral(" delimited by size into WS-LINHA."));
+    EXPECT_EQ(codigoDoExemplo(quarenta, true),
+              (QStringList{"           move spaces to WS-LINHA.",
+                           "           string \"T 009900002001960000100010Relatorio mensal de vendas\"",
+                           "           \" por filial 01\"", em(14) + " delimited by size into WS-LINHA."}));
 }
 
 TEST(QuebrarLinhasCobol, LimitesAspasCaudaELinhasIncompletas)
@@ -239,45 +209,22 @@ TEST(CopiarComo, LayoutCompletoNumaLinguagemSemCobol)
     doc.QuebraPaginaFinal = true;
     doc.QuebraPaginaAdd(2);
 
+    const auto item = teste::NovoItem;
     Banda b1;
     b1.Comentario = QStringLiteral("A") + QChar(0xFF) + QStringLiteral("B");
-    Item total;
-    total.Texto = QStringLiteral("Total");
-    total.Largura = 200;
-    total.CorFundo = 7;
-    b1.Itens.append(total);
+    b1.Itens = {item(TipoTexto, QStringLiteral("Total"), 0, 200)};
+    b1.Itens[0].CorFundo = 7;
     doc.Bandas.append(b1);
 
     Banda b2;
     b2.Deslocamento = -12;
     b2.Comentario = QStringLiteral("só antes");
-    Item figura;
-    figura.Tipo = TipoFigura;
-    figura.Largura = 50;
-    Item ean = figura;
-    ean.Tipo = TipoEAN13;
-    ean.Texto = QStringLiteral("\"789\"");
-    ean.Esquerda = 50;
-    ean.Largura = 100;
-    Item comando = ean;
-    comando.Tipo = TipoComando;
-    comando.Texto = QStringLiteral("WS-NOME");
-    comando.Esquerda = 150;
-    comando.Largura = 80;
-    Item barra = comando;
-    barra.Tipo = TipoBarraGrafico;
-    barra.Texto = QStringLiteral("WS-BAR");
-    barra.Esquerda = 230;
-    barra.Largura = 40;
-    barra.CorTexto = 3;
-    barra.CorFundo = 5;
-    Item estreito = comando;
-    estreito.Tipo = TipoTexto;
-    estreito.Texto = QStringLiteral("x");
-    estreito.Esquerda = 270;
-    estreito.Largura = 4;
-    estreito.Fonte.Sublinhado = true;
-    b2.Itens = {figura, ean, comando, barra, estreito};
+    b2.Itens = {item(TipoFigura, QString(), 0, 50), item(TipoEAN13, QStringLiteral("\"789\""), 50, 100),
+                item(TipoComando, QStringLiteral("WS-NOME"), 150, 80), item(TipoBarraGrafico, QStringLiteral("WS-BAR"), 230, 40),
+                item(TipoTexto, QStringLiteral("x"), 270, 4)};
+    b2.Itens[3].CorTexto = 3;
+    b2.Itens[3].CorFundo = 5;
+    b2.Itens[4].Fonte.Sublinhado = true;
     doc.Bandas.append(b2);
 
     Banda b3;
@@ -381,9 +328,8 @@ TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
     ui.respostas = {Resposta::Nao};
     EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Recusado);
     ASSERT_EQ(ui.perguntas.size(), 1);
-    EXPECT_EQ(ui.perguntas[0].texto, cpy + QStringLiteral("\n\nO arquivo acima já existe!\n\nDeseja substituí-lo?"));
-    EXPECT_EQ(ui.perguntas[0].titulo, QStringLiteral("Salvar"));
-    EXPECT_EQ(ui.perguntas[0].icone, Icone::Pergunta);
+    EXPECT_EQ(std::tuple(ui.perguntas[0].texto, ui.perguntas[0].titulo, ui.perguntas[0].icone),
+              std::tuple(cpy + QStringLiteral("\n\nO arquivo acima já existe!\n\nDeseja substituí-lo?"), QStringLiteral("Salvar"), Icone::Pergunta));
     EXPECT_EQ(teste::LerArquivo(cpy), QByteArray("antigo"));
     ui.respostas = {Resposta::Sim};
     EXPECT_EQ(CopiarComo(s.Documento, ling, cpy, &ui), ResultadoCopiarComo::Gravado);
@@ -411,8 +357,7 @@ TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaS
     // No language chosen: only the layout.
     s.NomeArquivo = lmt;
     ASSERT_TRUE(s.SalvarLMT(false));
-    EXPECT_TRUE(QFile::exists(lmt));
-    EXPECT_FALSE(QFile::exists(cpy));
+    EXPECT_TRUE(QFile::exists(lmt) && !QFile::exists(cpy));
 
     // The setting is read at the moment of saving; the STRING choice comes
     // from the session's settings.
@@ -457,8 +402,7 @@ TEST_F(CopybookTeste, SalvarLayoutGravaOCopybookQuandoHaLinguagemEMesmoComFalhaS
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto,
               QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Sumiu.lin")) + QStringLiteral("' não foi encontrado!"));
-    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("tres.lmt"))));
-    EXPECT_FALSE(QFile::exists(caminho(QStringLiteral("tres.cpy"))));
+    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("tres.lmt"))) && !QFile::exists(caminho(QStringLiteral("tres.cpy"))));
 }
 
 namespace {
@@ -487,68 +431,63 @@ TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
 {
     SessaoEdicao s;
     s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Ação com um texto que passa bem da coluna setenta e dois");
-    const QString lmt = caminho(QStringLiteral("rel.lmt"));
+    const QString lmt = caminho(QStringLiteral("rel.lmt")), cc = QStringLiteral("copiar-como"), ct = QStringLiteral("Cobol Teste");
     ASSERT_TRUE(GravarArquivoLMT(lmt, s.Documento).ok);
     const auto rodar = [&](const QStringList &a) { return Cli(a, pasta.Pasta(), config.Config()); };
+    const auto codigo = [&](bool cobolString, bool cobol = true) {
+        LinguagemDef l = ling;
+        l.CobolString = cobolString;
+        l.EhCobol = cobol;
+        return Para1252(GerarCopiarComo(s.Documento, l));
+    };
+    const auto erros = [](const Execucao &r) { return QString::fromLocal8Bit(r.erros).trimmed(); };
 
-    LinguagemDef comString = ling, semString = ling;
-    semString.CobolString = false;
-    Execucao r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt, QStringLiteral("--string")});
+    Execucao r = rodar({cc, ct, lmt, QStringLiteral("--string")});
     ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
-    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, comString)));
+    EXPECT_EQ(r.saida, codigo(true));
     EXPECT_TRUE(r.saida.contains("A\xE7\xE3o"));
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("--continuacao"), QStringLiteral("Cobol Teste"), lmt});
-    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, semString)));
+    EXPECT_EQ(rodar({cc, QStringLiteral("--continuacao"), ct, lmt}).saida, codigo(false));
 
     // Without a flag the editor's setting decides (default: STRING).
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt});
-    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, comString)));
+    EXPECT_EQ(rodar({cc, ct, lmt}).saida, codigo(true));
     Configuracoes c;
     c.NoCobolUsarString = false;
     c.GravarNoCobolUsarString();
     const QString saida = caminho(QStringLiteral("saida.cpy"));
     teste::GravarArquivoTeste(saida, "velho");
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt, saida});
+    r = rodar({cc, ct, lmt, saida});
     ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
     EXPECT_TRUE(r.saida.isEmpty());
-    EXPECT_EQ(teste::LerArquivo(saida), Para1252(GerarCopiarComo(s.Documento, semString)));
+    EXPECT_EQ(teste::LerArquivo(saida), codigo(false));
 
     // A path to a .lin file works as well; its name decides the COBOL step.
     QFile::copy(caminho(QStringLiteral("Cobol Teste.lin")), caminho(QStringLiteral("outra.lin")));
-    r = rodar({QStringLiteral("copiar-como"), caminho(QStringLiteral("outra.lin")), lmt});
-    LinguagemDef naoCobol = ling;
-    naoCobol.EhCobol = false;
-    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(s.Documento, naoCobol)));
+    EXPECT_EQ(rodar({cc, caminho(QStringLiteral("outra.lin")), lmt}).saida, codigo(false, false));
 
     // Failures: the editor's messages and the exit codes.
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Nenhuma"), lmt});
+    r = rodar({cc, QStringLiteral("Nenhuma"), lmt});
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(QString::fromLocal8Bit(r.erros).trimmed(),
-              QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
+    EXPECT_EQ(erros(r), QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
     teste::GravarArquivoTeste(caminho(QStringLiteral("ruim.lin")), QByteArray("\2\0\0\0", 4));
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("ruim"), lmt});
+    r = rodar({cc, QStringLiteral("ruim"), lmt});
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).contains(QStringLiteral("' é inválido!")));
-    r = rodar({QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), caminho(QStringLiteral("nada.lmt"))});
+    EXPECT_TRUE(erros(r).endsWith(QStringLiteral("' é inválido!")));
+    r = rodar({cc, ct, caminho(QStringLiteral("nada.lmt"))});
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
+    EXPECT_TRUE(erros(r).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
     EXPECT_TRUE(r.saida.isEmpty());
-    for (const QStringList &errado : {QStringList{QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste")},
-                                      QStringList{QStringLiteral("copiar-como"), QStringLiteral("Cobol Teste"), lmt,
-                                                  QStringLiteral("--string"), QStringLiteral("--continuacao")},
-                                      QStringList{QStringLiteral("copiar-como"), QStringLiteral("a"), QStringLiteral("b"),
-                                                  QStringLiteral("c"), QStringLiteral("d")},
-                                      QStringList{QStringLiteral("linguagem"), QStringLiteral("nova")},
-                                      QStringList{QStringLiteral("linguagem"), QStringLiteral("apagar"), QStringLiteral("x")}})
+    const QString nova = QStringLiteral("nova"), linguagem = QStringLiteral("linguagem");
+    for (const QStringList &errado : {QStringList{cc, ct}, QStringList{cc, ct, lmt, QStringLiteral("--string"), QStringLiteral("--continuacao")},
+                                      QStringList{cc, "a", "b", "c", "d"}, QStringList{linguagem, nova},
+                                      QStringList{linguagem, QStringLiteral("apagar"), "x"}})
         EXPECT_EQ(rodar(errado).codigo, 2) << errado.join(u' ').toStdString();
 
     // A new language: the name cleaned as the dialog does, the defaults written.
-    r = rodar({QStringLiteral("linguagem"), QStringLiteral("nova"), QStringLiteral("meu:cobol")});
+    r = rodar({linguagem, nova, QStringLiteral("meu:cobol")});
     ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
     EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("meu_cobol.lin"))), CodificarLin(LinguagemPadrao()));
-    r = rodar({QStringLiteral("linguagem"), QStringLiteral("nova"), QStringLiteral("meu:cobol")});
+    r = rodar({linguagem, nova, QStringLiteral("meu:cobol")});
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(QString::fromLocal8Bit(r.erros).trimmed(), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
-    r = rodar({QStringLiteral("linguagem"), QStringLiteral("lista")});
-    EXPECT_EQ(r.saida, QByteArray("Cobol Teste\nmeu_cobol\noutra\nruim\n"));
+    EXPECT_EQ(erros(r), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
+    EXPECT_EQ(rodar({linguagem, QStringLiteral("lista")}).saida, QByteArray("Cobol Teste\nmeu_cobol\noutra\nruim\n"));
 }

@@ -23,7 +23,7 @@ TEST(Estilo, LineBreaksAndTabsRoundTrip)
     EXPECT_EQ(TextoDoEstilo(QStringLiteral("a\r\nb\tc")), QStringLiteral("a{e}b        c"));
 }
 
-TEST(Estilo, BoldWidensToWholeWordsAndRemovesBothTags)
+TEST(Estilo, WidensToWholeWordsRemovesBothTagsAndIgnoresAnEmptyWord)
 {
     const auto r = AplicarEstilo(QStringLiteral("Total geral"), 1, 4, u'n', true);
     ASSERT_TRUE(r);
@@ -37,13 +37,9 @@ TEST(Estilo, BoldWidensToWholeWordsAndRemovesBothTags)
     EXPECT_EQ(aplicado(r->texto, 5, 5, 'n', false), QStringLiteral("Total geral"));
     // Tags in other letter case are tags too.
     EXPECT_EQ(aplicado(QStringLiteral("{N}Total{/N} geral"), 4, 4, 'n', false), QStringLiteral("Total geral"));
-}
-
-TEST(Estilo, EmptyWidenedSelectionChangesNothing)
-{
+    // An empty widened selection changes nothing; a line break ends a word as a blank does.
     EXPECT_FALSE(AplicarEstilo(QStringLiteral("a  b"), 2, 2, u'n', true));
     EXPECT_FALSE(AplicarEstilo(QString(), 0, 0, u'i', true));
-    // A line break ends a word as a blank does.
     EXPECT_EQ(aplicado(QStringLiteral("um\ndois"), 4, 4, 'i', true), QStringLiteral("um\n{i}dois{/i}"));
 }
 

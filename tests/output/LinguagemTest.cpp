@@ -1,5 +1,6 @@
-// Language definition files: bytes on disk, defaults, names, listing, and the
-// messages of files that cannot be used.
+// Language definition files: bytes on disk, defaults, names, listing, the
+// messages of files that cannot be used, and the languages dialog's
+// operations on the folder (adding, saving a changed template, removal).
 #include "output/Linguagem.h"
 
 #include "support/InterfaceRoteirizada.h"
@@ -19,13 +20,20 @@ namespace {
 
 class PastaLinguagensTeste : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(pasta.Valida());
-    }
+    void SetUp() override { ASSERT_TRUE(pasta.Valida()); }
     QString caminho(const QString &nome) const { return pasta.Caminho(nome); }
+    QByteArray lido(const char *nome) const { return teste::LerArquivo(caminho(QString::fromUtf8(nome))); }
+    // The one message shown since the last check: it starts with `inicio`.
+    void mensagemUnica(const QString &inicio, Icone icone)
+    {
+        ASSERT_EQ(ui.mensagens.size(), 1);
+        EXPECT_TRUE(ui.mensagens[0].texto.startsWith(inicio)) << ui.mensagens[0].texto.toStdString();
+        EXPECT_EQ(ui.mensagens[0].icone, icone);
+        ui.mensagens.clear();
+    }
 
     teste::PastaLinguagensTemporaria pasta;
+    teste::InterfaceRoteirizada ui;
 };
 
 QByteArray em1252(const char *utf8)
@@ -42,7 +50,6 @@ TEST_F(PastaLinguagensTeste, NovaLinguagemGravaOsPadroesByteAByteELeDeVolta)
 {
     LinguagemDef def;
     def.ComandoT = QStringLiteral("lixo de antes");
-    teste::InterfaceRoteirizada ui;
     ASSERT_TRUE(NovaLin(QStringLiteral("Cobol ANSI"), def, &ui));
     EXPECT_TRUE(ui.mensagens.isEmpty());
     EXPECT_TRUE(def.EhCobol);
@@ -65,7 +72,7 @@ TEST_F(PastaLinguagensTeste, NovaLinguagemGravaOsPadroesByteAByteELeDeVolta)
             .str(em1252("§c = Comando"))
             .str("")
             .b;
-    const QByteArray gravado = teste::LerArquivo(caminho(QStringLiteral("Cobol ANSI.lin")));
+    const QByteArray gravado = lido("Cobol ANSI.lin");
     EXPECT_EQ(gravado, esperado);
     // One byte a character: "§" is A7 and "á" E1, never two UTF-8 bytes.
     EXPECT_TRUE(gravado.contains(QByteArray("\xA7i = It\xE1lico 9(1)\r\n")));
@@ -97,7 +104,7 @@ TEST_F(PastaLinguagensTeste, ModelosVaziosEAcentuadosNoArquivoEGravacaoQueSubsti
     def.ComandoF = QStringLiteral("move \"§c§t\" to WS-L");
     def.ChamadaViewer = QString(65535, QLatin1Char('x'));
     ASSERT_TRUE(SalvarLin(QStringLiteral("acentos"), def, nullptr));
-    const QByteArray b = teste::LerArquivo(caminho(QStringLiteral("acentos.lin")));
+    const QByteArray b = lido("acentos.lin");
     // 9 bytes of "Itálico €": the euro sign is the single byte 80.
     EXPECT_EQ(b.mid(4, 11), QByteArray("\x09\x00It\xE1lico \x80", 11));
     // The empty opening comment is the two bytes 0, 0.
@@ -111,25 +118,19 @@ TEST_F(PastaLinguagensTeste, ModelosVaziosEAcentuadosNoArquivoEGravacaoQueSubsti
     // Saving again replaces the file, never appends to it.
     def.ChamadaViewer = QStringLiteral("call");
     ASSERT_TRUE(SalvarLin(QStringLiteral("acentos"), def, nullptr));
-    EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("acentos.lin"))).size(), 4 + 8 * 2 + 9 + 19 + 4);
+    EXPECT_EQ(lido("acentos.lin").size(), 4 + 8 * 2 + 9 + 19 + 4);
 
     // A template one byte too long for its count is refused and the old file stays.
-    teste::InterfaceRoteirizada ui;
     def.ComandoL = QString(65536, QLatin1Char('y'));
     EXPECT_FALSE(SalvarLin(QStringLiteral("acentos"), def, &ui));
-    ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu o erro 6 ao salvar a linguagem!\n\n")));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
-    EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("acentos.lin"))).size(), 4 + 8 * 2 + 9 + 19 + 4);
+    mensagemUnica(QStringLiteral("Ocorreu o erro 6 ao salvar a linguagem!\n\n"), Icone::Critico);
+    EXPECT_EQ(lido("acentos.lin").size(), 4 + 8 * 2 + 9 + 19 + 4);
 
     // A target that cannot be written (a folder of that name) is reported.
     ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
-    ui.mensagens.clear();
     EXPECT_FALSE(SalvarLin(QStringLiteral("pasta"), LinguagemPadrao(), &ui));
-    ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu o erro ")));
-    EXPECT_TRUE(ui.mensagens[0].texto.contains(QStringLiteral(" ao salvar a linguagem!\n\n")));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Critico);
+    EXPECT_TRUE(ui.mensagens.value(0).texto.contains(QStringLiteral(" ao salvar a linguagem!\n\n")));
+    mensagemUnica(QStringLiteral("Ocorreu o erro "), Icone::Critico);
 }
 
 TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
@@ -147,13 +148,8 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
         + QStringLiteral("' é inválido!");
     const QString curto = QStringLiteral("Ocorreu o erro 62 ao ler a linguagem!\n\nEntrada além do fim do arquivo");
 
-    const Bytes oito = [] {
-        Bytes b;
-        b.i32(1);
-        for (int i = 0; i < 8; ++i)
-            b.str("ab");
-        return b;
-    }();
+    Bytes oito;
+    oito.i32(1).str("ab").str("ab").str("ab").str("ab").str("ab").str("ab").str("ab").str("ab");
     struct Caso {
         const char *nome;
         QByteArray dados;
@@ -189,17 +185,14 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
     }
 
     // A missing file, and a folder where the file should be.
-    teste::InterfaceRoteirizada ui;
     LinguagemDef def;
     EXPECT_FALSE(LerLinguagem(QStringLiteral("nenhuma"), def, &ui));
-    ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_EQ(ui.mensagens[0].texto,
+    EXPECT_EQ(ui.mensagens.value(0).texto,
               QStringLiteral("O Arquivo '") + caminho(QStringLiteral("nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
+    mensagemUnica(QStringLiteral("O Arquivo '"), Icone::Exclamacao);
     ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     EXPECT_FALSE(LerLinguagem(QStringLiteral("pasta"), def, &ui));
-    ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_TRUE(ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu o erro ")));
+    mensagemUnica(QStringLiteral("Ocorreu o erro "), Icone::Critico);
 
     // Random garbage, and random cuts of a valid file: a message or success, never a crash.
     QRandomGenerator rng(20240611);
@@ -224,39 +217,78 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
     }
 }
 
-TEST_F(PastaLinguagensTeste, NomesListaEPasta)
+TEST_F(PastaLinguagensTeste, NomesAdicionarListaEPasta)
 {
-    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("meu:cobol")), QStringLiteral("meu_cobol"));
-    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("a\\b/c:d*e?f\"g<h>i|j k.l")), QStringLiteral("a_b_c_d_e_f_g_h_i_j k.l"));
-    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral(".")), QStringLiteral("_"));
-    EXPECT_EQ(LimparNomeLinguagem(QStringLiteral("..")), QStringLiteral("__"));
-    EXPECT_TRUE(NomeEhCobol(QStringLiteral("meu_cobol")));
-    EXPECT_TRUE(NomeEhCobol(QStringLiteral("MicroFocus COBOL 85")));
-    EXPECT_TRUE(NomeEhCobol(QStringLiteral("xCoBoLx")));
-    EXPECT_FALSE(NomeEhCobol(QStringLiteral("Cobo l")));
-    EXPECT_FALSE(NomeEhCobol(QStringLiteral("Delphi")));
+    for (auto [digitado, limpo] : {std::pair{"meu:cobol", "meu_cobol"}, std::pair{"a\\b/c:d*e?f\"g<h>i|j k.l", "a_b_c_d_e_f_g_h_i_j k.l"},
+                                   std::pair{".", "_"}, std::pair{"..", "__"}})
+        EXPECT_EQ(LimparNomeLinguagem(QString::fromLatin1(digitado)), QString::fromLatin1(limpo));
+    for (auto [nome, cobol] : {std::pair{"meu_cobol", true}, std::pair{"MicroFocus COBOL 85", true}, std::pair{"xCoBoLx", true},
+                               std::pair{"Cobo l", false}, std::pair{"Delphi", false}})
+        EXPECT_EQ(NomeEhCobol(QString::fromLatin1(nome)), cobol) << nome;
 
-    teste::InterfaceRoteirizada ui;
+    // Adding: an empty answer does nothing; the name is cleaned and the defaults written.
     LinguagemDef def;
-    ASSERT_TRUE(NovaLin(LimparNomeLinguagem(QStringLiteral("meu:cobol")), def, &ui));
-    EXPECT_TRUE(QFile::exists(caminho(QStringLiteral("meu_cobol.lin"))));
+    EXPECT_FALSE(AdicionarLinguagem(QString(), def, &ui));
+    EXPECT_TRUE(ListarLinguagens().isEmpty());
+    EXPECT_EQ(AdicionarLinguagem(QStringLiteral("meu:cobol"), def, &ui), QStringLiteral("meu_cobol"));
     EXPECT_TRUE(def.EhCobol);
+    const QByteArray criado = lido("meu_cobol.lin");
+    EXPECT_EQ(criado, CodificarLin(LinguagemPadrao()));
     EXPECT_TRUE(LinguagemExiste(QStringLiteral("meu_cobol")));
     EXPECT_FALSE(LinguagemExiste(QStringLiteral("meu:cobol")));
-    EXPECT_EQ(MensagemLinguagemExiste(QStringLiteral("meu_cobol")), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
+    // The cleaned name is the one found, and the one the message names.
+    def.DefVariaveis = QStringLiteral("alterada");
+    EXPECT_FALSE(AdicionarLinguagem(QStringLiteral("meu*cobol"), def, &ui));
+    EXPECT_EQ(ui.mensagens.value(0).texto, QStringLiteral("A linguagem 'meu_cobol' já existe!"));
+    EXPECT_EQ(ui.mensagens.value(0).titulo, QStringLiteral("Nova Linguagem"));
+    mensagemUnica(MensagemLinguagemExiste(QStringLiteral("meu_cobol")), Icone::Informacao);
+    EXPECT_EQ(def.DefVariaveis, QStringLiteral("alterada"));
+    EXPECT_EQ(lido("meu_cobol.lin"), criado);
 
     // A name of dots is a language the list shows, not a hidden file.
     ASSERT_TRUE(NovaLin(LimparNomeLinguagem(QStringLiteral("..")), def, &ui));
     for (const char *n : {"Zeta.lin", "alfa.lin", "Beta.LIN", "leia.txt", "semextensao"})
         teste::GravarArquivoTeste(caminho(QString::fromUtf8(n)), CodificarLin(LinguagemPadrao()));
     ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
-    EXPECT_EQ(ListarLinguagens(true),
-              (QStringList{QStringLiteral("__"), QStringLiteral("alfa"), QStringLiteral("Beta"), QStringLiteral("meu_cobol"),
-                           QStringLiteral("Zeta")}));
-    EXPECT_EQ(ListarLinguagens(false), (QStringList{QStringLiteral("Beta"), QStringLiteral("Zeta"), QStringLiteral("__"),
-                                                    QStringLiteral("alfa"), QStringLiteral("meu_cobol")}));
+    EXPECT_EQ(ListarLinguagens(true), (QStringList{"__", "alfa", "Beta", "meu_cobol", "Zeta"}));
+    EXPECT_EQ(ListarLinguagens(false), (QStringList{"Beta", "Zeta", "__", "alfa", "meu_cobol"}));
 
     EXPECT_EQ(PastaLinguagens(), pasta.Pasta());
     qunsetenv(VariavelPastaLinguagens);
     EXPECT_EQ(PastaLinguagens(), QCoreApplication::applicationDirPath());
+}
+
+TEST_F(PastaLinguagensTeste, ModeloGravadoSoQuandoMudaERemocaoPerguntaAntes)
+{
+    LinguagemDef def;
+    ASSERT_TRUE(NovaLin(QStringLiteral("C"), def, &ui));
+    const QString arquivo = caminho(QStringLiteral("C.lin"));
+    QFile::remove(arquivo);
+    // The editor's line feeds are the defaults' CR LF: nothing to write.
+    EXPECT_FALSE(AtualizarModelo(QStringLiteral("C"), def, 1, QString(def.ComandoF).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), &ui));
+    EXPECT_FALSE(QFile::exists(arquivo));
+    EXPECT_TRUE(AtualizarModelo(QStringLiteral("C"), def, 5, QStringLiteral("faz(§c);\nfim;"), &ui));
+    EXPECT_EQ(def.ComandosSimples, QStringLiteral("faz(§c);\r\nfim;"));
+    const QByteArray gravado = lido("C.lin");
+    EXPECT_EQ(gravado, CodificarLin(def));
+
+    // A template too long for its 16-bit count is refused: the file and the
+    // definition stay as they were.
+    EXPECT_FALSE(AtualizarModelo(QStringLiteral("C"), def, 0, QString(70000, u'x'), &ui));
+    mensagemUnica(QStringLiteral("Ocorreu o erro "), Icone::Critico);
+    EXPECT_TRUE(def.DefVariaveis.isEmpty());
+    EXPECT_EQ(lido("C.lin"), gravado);
+    EXPECT_EQ(LegendaOpcaoLinguagem(7), QStringLiteral("Comentário inicial"));
+    EXPECT_EQ(&ModeloDaOpcao(def, 7), &def.ComentarioInicial);
+
+    // Removal asks first: "No" keeps the file, "Yes" deletes it.
+    ui.respostas = {Resposta::Nao, Resposta::Sim};
+    EXPECT_FALSE(RemoverLinguagem(QStringLiteral("C"), &ui));
+    EXPECT_TRUE(LinguagemExiste(QStringLiteral("C")));
+    EXPECT_TRUE(RemoverLinguagem(QStringLiteral("C"), &ui));
+    EXPECT_FALSE(LinguagemExiste(QStringLiteral("C")));
+    ASSERT_EQ(ui.perguntas.size(), 2);
+    EXPECT_EQ(ui.perguntas[0].texto, QStringLiteral("Confirma a exclusão da linguagem 'C'?"));
+    EXPECT_EQ(ui.perguntas[0].titulo, QStringLiteral("Excluir Linguagem"));
+    EXPECT_EQ(ui.perguntas[0].icone, Icone::Pergunta);
 }

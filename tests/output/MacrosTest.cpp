@@ -24,12 +24,9 @@ TEST(Macros, ExpandeParaAsFormasDeExibicaoEmPortugues)
 
 TEST(Macros, VariavelDeCabecalhoERodapeLeDoisDigitos)
 {
-    EXPECT_EQ(MacroVariavel(QStringLiteral("7")), QStringLiteral("(%_07_%)"));
-    EXPECT_EQ(MacroVariavel(QStringLiteral(" 5")), QStringLiteral("(%_05_%)"));
-    EXPECT_EQ(MacroVariavel(QStringLiteral("123")), QStringLiteral("(%_12_%)"));
-    EXPECT_EQ(MacroVariavel(QStringLiteral("x")), QStringLiteral("(%_00_%)"));
-    EXPECT_EQ(MacroVariavel(QStringLiteral("4x")), QStringLiteral("(%_04_%)"));
-    EXPECT_EQ(MacroVariavel(QString()), QString());
+    for (auto [digitos, macro] : {std::pair{"7", "(%_07_%)"}, std::pair{" 5", "(%_05_%)"}, std::pair{"123", "(%_12_%)"},
+                                  std::pair{"x", "(%_00_%)"}, std::pair{"4x", "(%_04_%)"}, std::pair{"", ""}})
+        EXPECT_EQ(MacroVariavel(QString::fromLatin1(digitos)), QString::fromLatin1(macro)) << digitos;
     EXPECT_EQ(TabelaMacros()[0].macro, std::string("(%_pag_%)"));
     EXPECT_EQ(QString::fromUtf8(TabelaMacros()[12].legenda), QStringLiteral("Variável de cabeçalho e rodapé"));
     EXPECT_TRUE(PerguntaVariavelMacro().endsWith(QStringLiteral("Ex.: 01 Valor\n\nDigite o número da variável (00 até 99):")));
@@ -37,32 +34,22 @@ TEST(Macros, VariavelDeCabecalhoERodapeLeDoisDigitos)
 
 TEST(Macros, MacrosDeCorDaoOsTresRGBsEOTextoSemElas)
 {
-    CoresMacro c = MacroColor(QStringLiteral("<%_F,255,0,0_%>Total"));
-    EXPECT_EQ(c.texto, QStringLiteral("Total"));
-    EXPECT_EQ(c.fundo, 255);
-    EXPECT_EQ(c.frente, -1);
-    EXPECT_EQ(c.linha, -1);
-
-    c = MacroColor(QStringLiteral("<%_T, 0 , 128 , 255 _%>x"));
-    EXPECT_EQ(c.frente, 0 + 256 * 128 + 65536 * 255);
-    EXPECT_EQ(c.texto, QStringLiteral("x"));
-    EXPECT_EQ(MacroColor(QStringLiteral("<%_F,300,0,0_%>")).fundo, 44);
-    EXPECT_EQ(MacroColor(QStringLiteral("<%_L,1.6,0,-1_%>")).linha, 2 + 65536 * 255);
-
-    c = MacroColor(QStringLiteral("<%_F,1,2_%>resto"));
-    EXPECT_EQ(c.texto, QStringLiteral("resto"));
-    EXPECT_EQ(c.fundo, -1);
-
-    c = MacroColor(QStringLiteral("<%_F,1,2,3_%>a<%_F,4,5,6_%>b<%_l,7,8,9_%>"));
-    EXPECT_EQ(c.texto, QStringLiteral("ab"));
-    EXPECT_EQ(c.fundo, 4 + 256 * 5 + 65536 * 6);
-    EXPECT_EQ(c.linha, 7 + 256 * 8 + 65536 * 9);
-
+    // The text without the macros, then the text, background and line colours (-1: none).
+    const auto cores = [](const char *texto) {
+        const CoresMacro c = MacroColor(QString::fromLatin1(texto));
+        return std::tuple(c.texto, c.frente, c.fundo, c.linha);
+    };
+    const auto rgb = [](int r, int g, int b) { return r + 256 * g + 65536 * b; };
+    EXPECT_EQ(cores("<%_F,255,0,0_%>Total"), std::tuple(QStringLiteral("Total"), -1, 255, -1));
+    EXPECT_EQ(cores("<%_T, 0 , 128 , 255 _%>x"), std::tuple(QStringLiteral("x"), rgb(0, 128, 255), -1, -1));
+    // Out of range and fractional parts: the low byte, rounded.
+    EXPECT_EQ(std::get<2>(cores("<%_F,300,0,0_%>")), 44);
+    EXPECT_EQ(std::get<3>(cores("<%_L,1.6,0,-1_%>")), rgb(2, 0, 255));
+    EXPECT_EQ(cores("<%_F,1,2_%>resto"), std::tuple(QStringLiteral("resto"), -1, -1, -1));
+    // The last of a letter wins; letters in either case.
+    EXPECT_EQ(cores("<%_F,1,2,3_%>a<%_F,4,5,6_%>b<%_l,7,8,9_%>"), std::tuple(QStringLiteral("ab"), -1, rgb(4, 5, 6), rgb(7, 8, 9)));
     // An unclosed macro is plain text, and reading it ends.
-    c = MacroColor(QStringLiteral("<%_T,9,9,9_%>a <%_F,1,1,1 sem fim"));
-    EXPECT_EQ(c.texto, QStringLiteral("a <%_F,1,1,1 sem fim"));
-    EXPECT_EQ(c.fundo, -1);
-    EXPECT_EQ(c.frente, 9 + 256 * 9 + 65536 * 9);
+    EXPECT_EQ(cores("<%_T,9,9,9_%>a <%_F,1,1,1 sem fim"), std::tuple(QStringLiteral("a <%_F,1,1,1 sem fim"), rgb(9, 9, 9), -1, -1));
 }
 
 TEST(Macros, RemoverMacroDeUmaLetraMantemAsOutras)

@@ -65,11 +65,9 @@ TEST(TextoComandos, LinhasDeOpcoesNaOrdemEComSeusValores)
         EXPECT_EQ(Linhas(d)[4], QString::fromLatin1(linha)) << tipo;
     }
     // Quoted margins are whole millimetres, half away from zero; no digits gives 0.
-    EXPECT_EQ(ValorMargem(QStringLiteral("\"2.5\"")), QStringLiteral("003"));
-    EXPECT_EQ(ValorMargem(QStringLiteral("\"-2.5\"")), QStringLiteral("-003"));
-    EXPECT_EQ(ValorMargem(QStringLiteral("\"abc\"")), QStringLiteral("000"));
-    EXPECT_EQ(ValorMargem(QStringLiteral("\"1234\"")), QStringLiteral("1234"));
-    EXPECT_EQ(ValorMargem(QStringLiteral("\" 15mm\"")), QStringLiteral("015"));
+    for (auto [margem, valor] : {std::pair{"\"2.5\"", "003"}, std::pair{"\"-2.5\"", "-003"}, std::pair{"\"abc\"", "000"},
+                                 std::pair{"\"1234\"", "1234"}, std::pair{"\" 15mm\"", "015"}})
+        EXPECT_EQ(ValorMargem(QString::fromLatin1(margem)), QString::fromLatin1(valor)) << margem;
 }
 
 TEST(TextoComandos, FonteEhEscritaSoQuandoMudaInclusiveEntreBandas)
@@ -129,13 +127,7 @@ TEST(TextoComandos, CadaTipoDeItemComSuasRegrasDeValorELargura)
 {
     SessaoEdicao s;
     Banda &b = s.Documento.banda(1);
-    auto novo = [&](uint8_t tipo, const QString &texto, int largura) {
-        Item it;
-        it.Tipo = tipo;
-        it.Texto = texto;
-        it.Largura = largura;
-        b.Itens.append(it);
-    };
+    auto novo = [&](uint8_t tipo, const QString &texto, int largura) { b.Itens.append(teste::NovoItem(tipo, texto, 0, largura)); };
     b.Itens.clear();
     novo(TipoFigura, QString(), 3);                         // pictures: always, even empty and narrow
     novo(TipoFigura, QStringLiteral("\"c:\\logo.bmp\""), 50);
@@ -175,13 +167,10 @@ TEST(TextoComandos, CadaTipoDeItemComSuasRegrasDeValorELargura)
 
 TEST(TextoComandos, NumerosComLarguraMinimaENegativos)
 {
-    EXPECT_EQ(Numero(7, 2), QStringLiteral("07"));
-    EXPECT_EQ(Numero(0, 5), QStringLiteral("00000"));
-    EXPECT_EQ(Numero(123456, 5), QStringLiteral("123456"));
-    EXPECT_EQ(Numero(-12, 4), QStringLiteral("-0012"));
-    EXPECT_EQ(Numero(-12, 5), QStringLiteral("-00012"));
-    EXPECT_EQ(Numero(92, 0), QStringLiteral("92"));
-    EXPECT_EQ(Numero(-2147483648LL, 5), QStringLiteral("-2147483648"));
+    const std::tuple<long long, int, const char *> casos[] = {{7, 2, "07"}, {0, 5, "00000"}, {123456, 5, "123456"}, {-12, 4, "-0012"},
+                                                              {-12, 5, "-00012"}, {92, 0, "92"}, {-2147483648LL, 5, "-2147483648"}};
+    for (const auto &[n, largura, texto] : casos)
+        EXPECT_EQ(Numero(n, largura), QString::fromLatin1(texto)) << n << " " << largura;
 }
 
 TEST(TextoComandos, ListaDeComandosUtilizadosSemRepetirIgnorandoCaixa)
@@ -206,34 +195,26 @@ TEST(ConcatenarString, CresceEmPassosEDevolveSoOTextoUsado)
 {
     clsConcatenarString s;
     EXPECT_EQ(s.ResultString(), QString());
+    s.Add(QString());
+    EXPECT_EQ(s.Capacidade(), 64000);
     s.Add(QStringLiteral("abc"));
     s.Add(QStringLiteral("de"));
     EXPECT_EQ(s.ResultString(), QStringLiteral("abcde"));
     EXPECT_EQ(s.Capacidade(), 64000);
-
-    clsConcatenarString p;
-    p.setBufferIncrement(4);
-    p.Add(QStringLiteral("abcdef"));
-    EXPECT_EQ(p.Capacidade(), 6);  // the piece is longer than the step
-    p.Add(QStringLiteral("g"));
-    EXPECT_EQ(p.Capacidade(), 10);
-    EXPECT_EQ(p.ResultString(), QStringLiteral("abcdefg"));
-    p.Add(QStringLiteral("hi"));
-    EXPECT_EQ(p.Capacidade(), 10);
-    p.Add(QStringLiteral("j"));     // exactly full also grows
-    EXPECT_EQ(p.Capacidade(), 14);
-    EXPECT_EQ(p.BufferIncrement(), 4);
-
-    clsConcatenarString v;
-    v.Add(QString());
-    EXPECT_EQ(v.Capacidade(), 64000);
-    EXPECT_EQ(v.ResultString(), QString());
     for (int i = 0; i < 50000; ++i)
-        v.Add(QStringLiteral("xyz"));
-    EXPECT_EQ(v.ResultString().size(), 150000);
-    v.Clear();
-    EXPECT_EQ(v.ResultString(), QString());
-    EXPECT_EQ(v.Capacidade(), 0);
-    v.Add(QStringLiteral("novo"));
-    EXPECT_EQ(v.ResultString(), QStringLiteral("novo"));
+        s.Add(QStringLiteral("xyz"));
+    EXPECT_EQ(s.ResultString().size(), 150005);
+    s.Clear();
+    EXPECT_EQ(s.ResultString(), QString());
+    EXPECT_EQ(s.Capacidade(), 0);
+
+    // A piece longer than the step takes what it needs; exactly full also grows.
+    s.setBufferIncrement(4);
+    QList<int> capacidades;
+    for (const char *pedaco : {"abcdef", "g", "hi", "j"}) {
+        s.Add(QString::fromLatin1(pedaco));
+        capacidades << s.Capacidade();
+    }
+    EXPECT_EQ(capacidades, (QList<int>{6, 10, 10, 14}));
+    EXPECT_EQ(s.ResultString(), QStringLiteral("abcdefghij"));
 }

@@ -5,28 +5,37 @@
 #include <QLocale>
 
 using namespace lumeta;
-using Alcas = lumeta::teste::SessaoMontada;
 using Magico = lumeta::teste::SessaoMontada;
+using L = QList<int32_t>;
 
 namespace {
 
-// One whole drag of handle `alca` from its own centre by (dx, dy); returns
-// the rubber frame before the release.
-QRect Arrastar(SessaoEdicao &s, int alca, double dx, double dy)
-{
-    const QPointF inicio = QRectF(RetanguloAlca(RetanguloSelecao(s), alca)).center();
-    EXPECT_TRUE(IniciarArrasteAlca(s, alca, inicio));
-    const QRect r = MoverArrasteAlca(s, inicio + QPointF(dx, dy));
-    SoltarArrasteAlca(s);
-    return r;
-}
+class Alcas : public lumeta::teste::SessaoMontada {
+protected:
+    // Three bands; item (2, 1) selected, its frame at (8, 34, 64, 18).
+    void Tres()
+    {
+        Montar({{64, 64}, {64, 32}, {64}});
+        Selecionar(2, 1);
+    }
+    // One whole drag of handle `alca` from its own centre by (dx, dy);
+    // returns the rubber frame before the release.
+    QRect Arrastar(int alca, double dx, double dy)
+    {
+        const QPointF inicio = QRectF(RetanguloAlca(RetanguloSelecao(s), alca)).center();
+        EXPECT_TRUE(IniciarArrasteAlca(s, alca, inicio));
+        const QRect r = MoverArrasteAlca(s, inicio + QPointF(dx, dy));
+        SoltarArrasteAlca(s);
+        return r;
+    }
+    std::tuple<int32_t, int32_t, int32_t> Banda2() const { return {B(2).Topo, B(2).Altura, B(2).Deslocamento}; }
+};
 
 }  // namespace
 
 TEST_F(Alcas, LarguraEmPassosDeOitoTruncadosParaZeroEOCicloSoNoSoltar)
 {
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
+    Tres();
     ASSERT_EQ(RetanguloSelecao(s), QRect(8, 34, 64, 18));
     const int posicao = s.Desfazer.PosicaoDesfazer;
     ASSERT_TRUE(IniciarArrasteAlca(s, 6, QPointF(72, 43)));
@@ -39,53 +48,44 @@ TEST_F(Alcas, LarguraEmPassosDeOitoTruncadosParaZeroEOCicloSoNoSoltar)
     EXPECT_EQ(s.Desfazer.PosicaoDesfazer, posicao);
     SoltarArrasteAlca(s);
     EXPECT_EQ(pinturas, 1);
-    EXPECT_EQ(I(2, 1).Largura, 56);
-    EXPECT_EQ(I(2, 2).Esquerda, 56);
+    EXPECT_EQ(Esquerdas(2), (L{0, 56}));
     EXPECT_TRUE(s.PodeDesfazer());
     EXPECT_FALSE(s.Alca.Ativo());
 
     // A 7-pixel move in both directions changes nothing and paints nothing.
-    Arrastar(s, 7, 7, 7);
-    Arrastar(s, 0, -7, -7);
+    Arrastar(7, 7, 7);
+    Arrastar(0, -7, -7);
     EXPECT_EQ(pinturas, 1);
     EXPECT_EQ(I(2, 1).Largura, 56);
     EXPECT_EQ(B(2).Altura, 18);
 
     // The mouse keeps widths at 8 at least; the left edge stops at 0.
-    EXPECT_EQ(Arrastar(s, 6, -164, 0), QRect(8, 34, 8, 18));
+    EXPECT_EQ(Arrastar(6, -164, 0), QRect(8, 34, 8, 18));
     EXPECT_EQ(I(2, 1).Largura, 8);
-    EXPECT_EQ(Arrastar(s, 1, -108, 0), QRect(0, 34, 16, 18));
+    EXPECT_EQ(Arrastar(1, -108, 0), QRect(0, 34, 16, 18));
     EXPECT_EQ(I(2, 1).Largura, 16);
-    EXPECT_EQ(Arrastar(s, 1, 80, 0), QRect(16, 34, 8, 18));
+    EXPECT_EQ(Arrastar(1, 80, 0), QRect(16, 34, 8, 18));
     EXPECT_EQ(I(2, 1).Largura, 8);
 }
 
 TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
 {
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    EXPECT_EQ(Arrastar(s, 4, 0, -24), QRect(8, 34, 64, 1));
-    EXPECT_EQ(B(2).Altura, 1);
-    EXPECT_EQ(B(3).Topo, 35);
-
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    EXPECT_EQ(Arrastar(s, 5, 0, 24), QRect(8, 51, 64, 1));
+    Tres();
+    EXPECT_EQ(Arrastar(4, 0, -24), QRect(8, 34, 64, 1));
+    EXPECT_EQ(Topos(), (L{16, 34, 35}));
+    Tres();
+    EXPECT_EQ(Arrastar(5, 0, 24), QRect(8, 51, 64, 1));
     EXPECT_EQ(B(2).Altura, 1);
 
     // The top handle moves the band with the frame.
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    EXPECT_EQ(Arrastar(s, 3, 0, 16), QRect(8, 50, 64, 18));
-    EXPECT_EQ(B(2).Deslocamento, 16);
-    EXPECT_EQ(B(2).Topo, 50);
-    EXPECT_EQ(Arrastar(s, 3, 0, -32), QRect(8, 18, 64, 18));
-    EXPECT_EQ(B(2).Deslocamento, -16);
-    EXPECT_EQ(B(2).Topo, 18);
+    Tres();
+    EXPECT_EQ(Arrastar(3, 0, 16), QRect(8, 50, 64, 18));
+    EXPECT_EQ(Banda2(), std::tuple(50, 18, 16));
+    EXPECT_EQ(Arrastar(3, 0, -32), QRect(8, 18, 64, 18));
+    EXPECT_EQ(Banda2(), std::tuple(18, 18, -16));
     // It stops at the previous band's top, and covering that band whole is -9999.
-    EXPECT_EQ(Arrastar(s, 3, 0, -80), QRect(8, 16, 64, 18));
-    EXPECT_EQ(B(2).Deslocamento, -9999);
-    EXPECT_EQ(B(2).Topo, 16);
+    EXPECT_EQ(Arrastar(3, 0, -80), QRect(8, 16, 64, 18));
+    EXPECT_EQ(Banda2(), std::tuple(16, 18, -9999));
     // -9999 is read as the previous band's height when a drag starts.
     ASSERT_TRUE(IniciarArrasteAlca(s, 7, QPointF(72, 34)));
     EXPECT_EQ(B(2).Deslocamento, -9999);
@@ -95,11 +95,9 @@ TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
     EXPECT_EQ(B(2).Topo, 16);
 
     // The top-left corner grows the band upwards.
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    EXPECT_EQ(Arrastar(s, 0, 0, -8), QRect(8, 26, 64, 26));
-    EXPECT_EQ(B(2).Altura, 26);
-    EXPECT_EQ(B(2).Deslocamento, -8);
+    Tres();
+    EXPECT_EQ(Arrastar(0, 0, -8), QRect(8, 26, 64, 26));
+    EXPECT_EQ(Banda2(), std::tuple(26, 26, -8));
     EXPECT_EQ(B(3).Topo, 52);
 
     // Band 1: no top handle, and the lowest top is 8; its top never moves.
@@ -108,10 +106,8 @@ TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
     EXPECT_FALSE(IniciarArrasteAlca(s, 3, QPointF(40, 16)));
     EXPECT_EQ(AlcaEm(s, QPoint(40, 16)), -1);
     EXPECT_EQ(AlcaEm(s, QPoint(40, 34)), 4);
-    EXPECT_EQ(Arrastar(s, 0, 0, -40), QRect(8, 8, 64, 26));
-    EXPECT_EQ(B(1).Altura, 26);
-    EXPECT_EQ(B(1).Topo, 16);
-    EXPECT_EQ(B(1).Deslocamento, 0);
+    EXPECT_EQ(Arrastar(0, 0, -40), QRect(8, 8, 64, 26));
+    EXPECT_EQ(std::tuple(B(1).Topo, B(1).Altura, B(1).Deslocamento), std::tuple(16, 26, 0));
     EXPECT_EQ(DicaAlca(3), QStringLiteral("Deslocar a banda selecionada"));
     for (int i : {4, 6, 7})
         EXPECT_EQ(DicaAlca(i), QStringLiteral("Redimensionar o item - [Shift + Setas]"));
@@ -121,48 +117,37 @@ TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
 
 TEST_F(Alcas, LimitesDoCanvasArredondadosAGrade)
 {
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    s.Canvas.Tamanho = QSize(205, 101);  // limits 197 and 93, on the grid 192 and 88
-    EXPECT_EQ(Arrastar(s, 7, 400, 400), QRect(8, 34, 184, 54));
-    EXPECT_EQ(I(2, 1).Largura, 184);
-    EXPECT_EQ(B(2).Altura, 54);
-    // The left-hand corner has no right limit to meet, only the bottom one.
-    Montar({{64, 64}, {64, 32}, {64}});
-    Selecionar(2, 1);
-    s.Canvas.Tamanho = QSize(205, 101);
-    EXPECT_EQ(Arrastar(s, 2, 0, 400), QRect(8, 34, 64, 54));
+    // Limits 197 and 93, on the grid 192 and 88; the left-hand corner has no
+    // right limit to meet, only the bottom one.
+    for (const auto &[alca, esperado] : {std::pair{7, QRect(8, 34, 184, 54)}, {2, QRect(8, 34, 64, 54)}}) {
+        Tres();
+        s.Canvas.Tamanho = QSize(205, 101);
+        EXPECT_EQ(Arrastar(alca, alca == 7 ? 400 : 0, 400), esperado);
+        EXPECT_EQ(std::tuple(I(2, 1).Largura, B(2).Altura), std::tuple(esperado.width(), 54));
+    }
 }
 
 TEST_F(Alcas, FaixaCopiaALarguraEmVariasBandasOuDentroDeUma)
 {
-    Montar({{64, 64}, {64, 32}, {64}});
+    Tres();
     CliqueEShiftClique(10, 20, 80, 40);
     ASSERT_TRUE(s.Faixa.VariasBandas());
-    Arrastar(s, 6, 16, 0);
-    for (int b : {1, 2})
-        for (const Item &it : B(b).Itens)
-            EXPECT_EQ(it.Largura, 80);
-    EXPECT_EQ(I(1, 2).Esquerda, 80);
-    EXPECT_EQ(I(2, 2).Esquerda, 80);
-    EXPECT_EQ(I(3, 1).Largura, 64);
-    Arrastar(s, 4, 0, 8);
-    EXPECT_EQ(B(1).Altura, 26);
-    EXPECT_EQ(B(2).Altura, 26);
-    EXPECT_EQ(B(3).Altura, 18);
+    Arrastar(6, 16, 0);
+    EXPECT_EQ(Larguras(1), (L{80, 80}));
+    EXPECT_EQ(Larguras(2), (L{80, 80}));
+    EXPECT_EQ(Esquerdas(2), (L{0, 80}));
+    EXPECT_EQ(Larguras(3), L{64});
+    Arrastar(4, 0, 8);
+    EXPECT_EQ(Alturas(), (L{26, 26, 18}));
 
     Montar({{64, 64, 64, 64}, {64}});
     CliqueEShiftClique(80, 20, 140, 20);
     ASSERT_TRUE(s.Faixa.UmaBanda());
-    Arrastar(s, 6, 16, 0);
-    EXPECT_EQ(I(1, 1).Largura, 64);
-    EXPECT_EQ(I(1, 2).Largura, 80);
-    EXPECT_EQ(I(1, 3).Largura, 80);
-    EXPECT_EQ(I(1, 4).Largura, 64);
+    Arrastar(6, 16, 0);
+    EXPECT_EQ(Larguras(1), (L{64, 80, 80, 64}));
     EXPECT_EQ(I(1, 4).Esquerda, 224);
-    Arrastar(s, 4, 0, 8);
-    EXPECT_EQ(B(1).Altura, 26);
-    EXPECT_EQ(B(2).Altura, 18);
+    Arrastar(4, 0, 8);
+    EXPECT_EQ(Alturas(), (L{26, 18}));
 }
 
 TEST_F(Magico, OfertaSoSobreEspacoLivreComOsLimiaresDoFundoEDoFimDaBanda)
@@ -219,9 +204,8 @@ TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
     CliqueMagico(s);
     EXPECT_FALSE(s.Magico.visivel);
     EXPECT_EQ(s.BandaSelecionada, 2);
-    ASSERT_EQ(B(2).NumItens(), 2);
-    EXPECT_EQ(I(2, 2).Largura, 120);
-    EXPECT_EQ(I(2, 2).Esquerda, 32);
+    EXPECT_EQ(Larguras(2), (L{32, 120}));
+    EXPECT_EQ(Esquerdas(2), (L{0, 32}));
     EXPECT_EQ(I(2, 2).Texto, QStringLiteral("Texto 2"));
     EXPECT_EQ(pinturas, 1);
 
@@ -231,10 +215,8 @@ TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
     CliqueMagico(s);
     ASSERT_EQ(s.Documento.NumBandas(), 3);
     EXPECT_EQ(s.BandaSelecionada, 3);
-    EXPECT_EQ(B(3).Altura, 42);
-    ASSERT_EQ(B(3).NumItens(), 1);
-    EXPECT_EQ(I(3, 1).Largura, 48);
-    EXPECT_EQ(B(3).Topo, 52);
+    EXPECT_EQ(std::tuple(B(3).Topo, B(3).Altura), std::tuple(52, 42));
+    EXPECT_EQ(Larguras(3), L{48});
     // Without a ghost a click does nothing.
     CliqueMagico(s);
     EXPECT_EQ(s.Documento.NumBandas(), 3);

@@ -1,113 +1,8 @@
 #include "editing/ComandosBanda.h"
 #include "editing/ComandosTransferencia.h"
 #include "editing/SessaoMontada.h"
-#include "canvas/Pintor.h"
-#include "support/InterfaceRoteirizada.h"
-
-#include <gtest/gtest.h>
 
 using namespace lumeta;
-using lumeta::teste::InterfaceRoteirizada;
-
-
-TEST(ComandosBanda, AlturaAutomaticaEManual)
-{
-    SessaoEdicao s;
-    s.AddBanda(0, false, 40, 0);
-    s.AddBanda(0, false, 0, 0);
-    s.BandaSelecionada = 2;
-    EXPECT_EQ(LegendaBandaAuto(s.Documento.banda(2)), QStringLiteral("Alt&ura automática"));
-    mnuEditarBandaAuto(s);
-    // The repaint computed the height and keeps it negated.
-    const int32_t calculada = s.Documento.banda(2).Altura;
-    EXPECT_LT(calculada, 0);
-    EXPECT_FALSE(AlturaManual(s.Documento.banda(2)));
-    EXPECT_EQ(LegendaBandaAuto(s.Documento.banda(2)), QStringLiteral("Alt&ura manual"));
-    mnuEditarBandaAuto(s);
-    EXPECT_EQ(s.Documento.banda(2).Altura, -calculada);
-
-    // A range over several bands switches every band of it, each by its own mode.
-    s.Documento.banda(1).Altura = -40;
-    s.Faixa = {true, 1, 3, 1, 1};
-    mnuEditarBandaAuto(s);
-    EXPECT_EQ(s.Documento.banda(1).Altura, 40);
-    EXPECT_LT(s.Documento.banda(2).Altura, 1);
-    EXPECT_LT(s.Documento.banda(3).Altura, 1);
-}
-
-TEST(ComandosBanda, QuebraDePaginaDaBandaSelecionada)
-{
-    SessaoEdicao s;
-    for (int i = 0; i < 4; ++i)
-        s.AddBanda(0, false, 0, 0);
-    s.BandaSelecionada = 1;
-    EXPECT_FALSE(BandaPaginaHabilitada(1));
-    EXPECT_FALSE(mnuEditarBandaPagina(s));
-    EXPECT_TRUE(s.Documento.Quebras.isEmpty());
-
-    for (int b : {2, 5, 4}) {
-        s.BandaSelecionada = b;
-        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("&Quebrar a Página"));
-        EXPECT_TRUE(mnuEditarBandaPagina(s));
-        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("Remover a &Quebra de Página"));
-    }
-    EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{2, 5, 4}));
-    // Removing from the middle puts the former last entry in its place.
-    s.BandaSelecionada = 2;
-    EXPECT_TRUE(mnuEditarBandaPagina(s));
-    EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{4, 5}));
-    for (int b : {4, 5}) {
-        s.BandaSelecionada = b;
-        mnuEditarBandaPagina(s);
-    }
-    EXPECT_TRUE(s.Documento.Quebras.isEmpty());
-}
-
-TEST(ComandosBanda, QuebraFinalContraRodape)
-{
-    InterfaceRoteirizada ui;
-    SessaoEdicao s;
-    s.Ui = &ui;
-    s.AddBanda(0, false, 0, 0);
-    s.Alterado = false;
-
-    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
-    EXPECT_TRUE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(ui.mensagens.isEmpty());
-
-    // With a footer the setting cannot be switched on.
-    s.Documento.BandaRodape = 2;
-    s.Alterado = false;
-    EXPECT_EQ(mnuConfigQuebraPagina(s),
-              QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!"));
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_FALSE(s.Alterado);
-    ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Rodapé"));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
-    EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!"));
-
-    // Setting a footer while it is on turns it off, with the longer message.
-    s.Documento.BandaRodape = 0;
-    mnuConfigQuebraPagina(s);
-    ASSERT_TRUE(s.Documento.QuebraPaginaFinal);
-    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());  // no footer yet
-    s.Documento.BandaRodape = 2;
-    s.Alterado = false;
-    const QString aviso = VerificarRodapeQuebraFinal(s);
-    EXPECT_EQ(aviso, QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!\n\n"
-                                    "A quebra de página será removida do final da página."));
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(s.Alterado);
-    ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_EQ(ui.mensagens[1].texto, aviso);
-    EXPECT_EQ(ui.mensagens[1].titulo, QStringLiteral("Rodapé"));
-    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
-}
-
 using BandaMenu = lumeta::teste::SessaoMontada;
 
 namespace {
@@ -124,26 +19,23 @@ QStringList BandasComQuebra(const SessaoEdicao &s)
 
 }  // namespace
 
-TEST_F(BandaMenu, InserirRemoverEDuplicarMantemCabecalhoERodapeNasMesmasBandas)
+TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBandas)
 {
     Montar({{64}, {32}, {16}, {48}});
+    const auto marcadores = [&] { return std::make_pair(s.Documento.BandaCabecalho, s.Documento.BandaRodape); };
     s.Documento.BandaCabecalho = 1;
     s.Documento.BandaRodape = 3;
     mnuEditarBandaInserir(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "2.1", "3.1", "4.1"}));
-    EXPECT_EQ(s.Documento.BandaCabecalho, 2);
-    EXPECT_EQ(s.Documento.BandaRodape, 4);
+    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
     EXPECT_EQ(s.BandaSelecionada, 2);
     EXPECT_EQ(pinturas, 1);
 
-    s.BandaSelecionada = 3;
-    s.ItemSelecionado = 1;
+    Selecionar(3, 1);
     ASSERT_TRUE(mnuEditarBandaRemover(s));
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "3.1", "4.1"}));
-    EXPECT_EQ(s.Documento.BandaRodape, 3);
-    EXPECT_EQ(s.Documento.BandaCabecalho, 2);
-    EXPECT_EQ(s.BandaSelecionada, 3);
-    EXPECT_EQ(s.ItemSelecionado, 0);
+    EXPECT_EQ(marcadores(), std::make_pair(2, 3));
+    EXPECT_EQ(Selecionado(), std::make_pair(3, 0));
 
     // The lower copy of a duplicate starts right under its source.
     s.Documento.banda(3).Deslocamento = -8;
@@ -151,23 +43,36 @@ TEST_F(BandaMenu, InserirRemoverEDuplicarMantemCabecalhoERodapeNasMesmasBandas)
     s.ItemSelecionado = 1;
     mnuEditarBandaDuplicar(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "3.1", "3.1", "4.1"}));
-    EXPECT_EQ(B(3).Deslocamento, -8);
-    EXPECT_EQ(B(4).Deslocamento, 0);
+    EXPECT_EQ(DasBandas([](const Banda &b) { return b.Deslocamento; }), (QList<int32_t>{0, 0, -8, 0, 0}));
     EXPECT_EQ(B(4).Comentario, QStringLiteral("c"));
     EXPECT_EQ(B(4).Itens, B(3).Itens);
     EXPECT_EQ(s.BandaSelecionada, 4);
-    EXPECT_EQ(s.Documento.BandaRodape, 4);
+    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
 
     // Appending moves neither the selection nor the markers.
     mnuEditarBandaAdicionar(s);
-    EXPECT_EQ(s.Documento.NumBandas(), 6);
+    EXPECT_EQ(Alturas(), (QList<int32_t>{18, 18, 18, 18, 18, 18}));
     EXPECT_EQ(s.BandaSelecionada, 4);
-    EXPECT_EQ(B(6).Altura, 18);
-    EXPECT_EQ(s.Documento.BandaRodape, 4);
-}
+    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
 
-TEST_F(BandaMenu, RemoverAUnicaBandaERecusadoComAMensagem)
-{
+    // Up and down swap the bands, not the markers; at either end nothing happens.
+    Montar({{64}, {32}, {16}});
+    s.Documento.BandaCabecalho = 1;
+    s.Documento.BandaRodape = 3;
+    mnuEditarBandaUp(s);
+    Selecionar(3, 0);
+    mnuEditarBandaDown(s);
+    EXPECT_EQ(pinturas, 0);
+    mnuEditarBandaUp(s);
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "3.1", "2.1"}));
+    EXPECT_EQ(s.BandaSelecionada, 2);
+    mnuEditarBandaDown(s);
+    mnuEditarBandaDown(s);
+    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1"}));
+    EXPECT_EQ(s.BandaSelecionada, 3);
+    EXPECT_EQ(marcadores(), std::make_pair(1, 3));
+
+    // The only band cannot go.
     Montar({{64, 32}});
     const LayoutDocumento antes = s.Documento;
     EXPECT_FALSE(mnuEditarBandaRemover(s));
@@ -178,53 +83,43 @@ TEST_F(BandaMenu, RemoverAUnicaBandaERecusadoComAMensagem)
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
 }
 
-TEST_F(BandaMenu, SubirEDescerTrocamAsBandasENaoOsMarcadores)
-{
-    Montar({{64}, {32}, {16}});
-    s.Documento.BandaCabecalho = 1;
-    s.Documento.BandaRodape = 3;
-    mnuEditarBandaUp(s);
-    s.BandaSelecionada = 3;
-    mnuEditarBandaDown(s);
-    EXPECT_EQ(pinturas, 0);
-    mnuEditarBandaUp(s);
-    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "3.1", "2.1"}));
-    EXPECT_EQ(s.BandaSelecionada, 2);
-    mnuEditarBandaDown(s);
-    mnuEditarBandaDown(s);
-    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1"}));
-    EXPECT_EQ(s.BandaSelecionada, 3);
-    EXPECT_EQ(s.Documento.BandaCabecalho, 1);
-    EXPECT_EQ(s.Documento.BandaRodape, 3);
-}
-
-TEST_F(BandaMenu, QuebrasDePaginaSeguemSuasBandas)
+TEST_F(BandaMenu, QuebraDePaginaAlternaPelaBandaESegueSuaBanda)
 {
     Montar({{64}, {32}, {16}, {48}, {8}});
+    EXPECT_FALSE(BandaPaginaHabilitada(1));
+    EXPECT_FALSE(mnuEditarBandaPagina(s));
+    EXPECT_TRUE(s.Documento.Quebras.isEmpty());
+    for (int b : {2, 5, 4}) {
+        s.BandaSelecionada = b;
+        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("&Quebrar a Página"));
+        EXPECT_TRUE(mnuEditarBandaPagina(s));
+        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("Remover a &Quebra de Página"));
+    }
+    EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{2, 5, 4}));
+    // Removing from the middle puts the former last entry in its place.
+    s.BandaSelecionada = 2;
+    EXPECT_TRUE(mnuEditarBandaPagina(s));
+    EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{4, 5}));
+    s.BandaSelecionada = 5;
+    mnuEditarBandaPagina(s);
+
+    // Inserting and moving bands carry the breaks with them.
     s.Documento.Quebras = {2, 4};
     const QStringList marcadas{"2.1", "4.1"};
     s.BandaSelecionada = 2;
     mnuEditarBandaInserir(s);
     EXPECT_EQ(BandasComQuebra(s), marcadas);
     s.BandaSelecionada = 5;
-    mnuEditarBandaUp(s);
-    EXPECT_EQ(BandasComQuebra(s), marcadas);
-    mnuEditarBandaDown(s);
-    mnuEditarBandaDown(s);
-    EXPECT_EQ(BandasComQuebra(s), marcadas);
-    mnuEditarBandaUp(s);
-    EXPECT_EQ(BandasComQuebra(s), marcadas);
-    EXPECT_EQ(s.Documento.Quebras.size(), 2);
-
+    for (auto mover : {mnuEditarBandaUp, mnuEditarBandaDown, mnuEditarBandaDown, mnuEditarBandaUp}) {
+        mover(s);
+        EXPECT_EQ(BandasComQuebra(s), marcadas);
+    }
     // A break goes with its band.
-    ASSERT_EQ(s.BandaSelecionada, 5);
     ASSERT_EQ(B(5).Itens[0].Texto, QStringLiteral("4.1"));
     mnuEditarBandaRemover(s);
     EXPECT_EQ(BandasComQuebra(s), QStringList{"2.1"});
-
     // Pasted bands come without breaks and push the marked band down.
     s.BandaSelecionada = 3;
-    ASSERT_EQ(B(3).Itens[0].Texto, QStringLiteral("2.1"));
     ASSERT_TRUE(mnuEditarCopiar(s));
     s.BandaSelecionada = 1;
     mnuEditarColarBanda(s);
@@ -236,17 +131,77 @@ TEST_F(BandaMenu, QuebrasDePaginaSeguemSuasBandas)
     EXPECT_EQ(s.Documento.Quebras, QList<int16_t>{4});
 }
 
-TEST_F(BandaMenu, FonteDaBandaParaTodosOsSeusItens)
+TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
 {
+    Montar({{64, 32}, {16}, {8}});
+    s.Documento.banda(1).Altura = 40;
+    Selecionar(2, 0);
+    EXPECT_EQ(LegendaBandaAuto(B(2)), QStringLiteral("Alt&ura automática"));
+    mnuEditarBandaAuto(s);
+    // The repaint computed the height and keeps it negated.
+    const int32_t calculada = B(2).Altura;
+    EXPECT_LT(calculada, 0);
+    EXPECT_FALSE(AlturaManual(B(2)));
+    EXPECT_EQ(LegendaBandaAuto(B(2)), QStringLiteral("Alt&ura manual"));
+    mnuEditarBandaAuto(s);
+    EXPECT_EQ(B(2).Altura, -calculada);
+    // A range over several bands switches every band of it, each by its own mode.
+    s.Documento.banda(1).Altura = -40;
+    s.Faixa = {true, 1, 3, 1, 1};
+    mnuEditarBandaAuto(s);
+    EXPECT_EQ(B(1).Altura, 40);
+    EXPECT_LT(B(2).Altura, 1);
+    EXPECT_LT(B(3).Altura, 1);
+
+    // The band's font goes to every item of the band, sized as the dialog rounds.
     Montar({{64, 32}, {16}});
-    ui.fontes.push_back(std::nullopt);
+    Selecionar(1, 0);
+    ui.fontes = {std::nullopt, FonteEscolhida{QStringLiteral("Courier New"), 112.5, true, false, true, false}};
     mnuEditarBandaFonte(s);
     EXPECT_EQ(pinturas, 0);
-    ui.fontes.push_back(FonteEscolhida{QStringLiteral("Courier New"), 112.5, true, false, true, false});
     mnuEditarBandaFonte(s);
     const FonteItem esperada{QStringLiteral("Courier New"), 12, true, false, true, false};
-    EXPECT_EQ(I(1, 1).Fonte, esperada);
-    EXPECT_EQ(I(1, 2).Fonte, esperada);
+    EXPECT_EQ(DosItens(1, [](const Item &i) { return i.Fonte; }), (QList<FonteItem>{esperada, esperada}));
     EXPECT_EQ(I(2, 1).Fonte, FonteItem());
     EXPECT_EQ(pinturas, 1);
+}
+
+TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
+{
+    Montar({{64}, {32}});
+    s.Alterado = false;
+    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
+    EXPECT_TRUE(s.Documento.QuebraPaginaFinal);
+    EXPECT_TRUE(s.Alterado);
+    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
+    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+
+    // With a footer the setting cannot be switched on.
+    const QString recusa = QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!");
+    s.Documento.BandaRodape = 2;
+    s.Alterado = false;
+    EXPECT_EQ(mnuConfigQuebraPagina(s), recusa);
+    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+    EXPECT_FALSE(s.Alterado);
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto, recusa);
+    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Rodapé"));
+    EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
+
+    // Setting a footer while it is on turns it off, with the longer message.
+    s.Documento.BandaRodape = 0;
+    mnuConfigQuebraPagina(s);
+    ASSERT_TRUE(s.Documento.QuebraPaginaFinal);
+    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());  // no footer yet
+    s.Documento.BandaRodape = 2;
+    s.Alterado = false;
+    const QString aviso = VerificarRodapeQuebraFinal(s);
+    EXPECT_EQ(aviso, recusa + QStringLiteral("\n\nA quebra de página será removida do final da página."));
+    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+    EXPECT_TRUE(s.Alterado);
+    ASSERT_EQ(ui.mensagens.size(), 2);
+    EXPECT_EQ(ui.mensagens[1].texto, aviso);
+    EXPECT_EQ(ui.mensagens[1].titulo, QStringLiteral("Rodapé"));
+    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
 }

@@ -5,34 +5,28 @@
 
 using namespace lumeta;
 using ItemMenu = lumeta::teste::SessaoMontada;
+using L = QList<int32_t>;
 
-TEST_F(ItemMenu, InserirAntesDoSelecionadoAcrescentarEDuplicarOUltimo)
+TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
 {
     Montar({{64, 32, 16}});
     Selecionar(1, 2);
     mnuEditarItemInserir(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "Texto 4", "1.2", "1.3"}));
+    EXPECT_EQ(Esquerdas(1), (L{0, 64, 128, 160}));
     EXPECT_EQ(s.ItemSelecionado, 3);
-    EXPECT_EQ(I(1, 3).Esquerda, 128);
-    EXPECT_EQ(I(1, 2).Largura, 64);
-
     mnuEditarItemAdicionar(s);
     EXPECT_EQ(Textos(1).last(), QStringLiteral("Texto 5"));
     EXPECT_EQ(s.ItemSelecionado, 0);
-
     Selecionar(1, 5);
     s.Documento.banda(1).Itens[4].Largura = 24;
     mnuEditarItemDuplicar(s);
-    ASSERT_EQ(B(1).NumItens(), 6);
+    EXPECT_EQ(Textos(1).mid(4), (QStringList{"Texto 5", "Texto 5"}));
+    EXPECT_EQ(Larguras(1).mid(4), (L{24, 24}));
     EXPECT_EQ(s.ItemSelecionado, 6);
-    EXPECT_EQ(I(1, 6).Texto, QStringLiteral("Texto 5"));
-    EXPECT_EQ(I(1, 6).Largura, 24);
-    EXPECT_EQ(I(1, 6).Esquerda, I(1, 5).Esquerda + 24);
     EXPECT_EQ(pinturas, 3);
-}
 
-TEST_F(ItemMenu, MoverNasPontasNaoFazNadaENoMeioTrocaOsItensInteiros)
-{
+    // At either end a move does nothing; in the middle the whole items swap.
     Montar({{64, 32, 16}});
     Selecionar(1, 1);
     mnuEditarItemLeft(s);
@@ -42,14 +36,12 @@ TEST_F(ItemMenu, MoverNasPontasNaoFazNadaENoMeioTrocaOsItensInteiros)
     s.Documento.banda(1).Itens[2].CorFundo = 5;
     mnuEditarItemLeft(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.3", "1.2"}));
-    EXPECT_EQ(s.ItemSelecionado, 2);
+    EXPECT_EQ(Esquerdas(1), (L{0, 64, 80}));
     EXPECT_EQ(I(1, 2).CorFundo, 5);
-    EXPECT_EQ(I(1, 2).Esquerda, 64);
-    EXPECT_EQ(I(1, 3).Esquerda, 80);
+    EXPECT_EQ(s.ItemSelecionado, 2);
     mnuEditarItemRight(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.2", "1.3"}));
     EXPECT_EQ(s.ItemSelecionado, 3);
-    // Without an item nothing moves.
     Selecionar(1, 0);
     mnuEditarItemLeft(s);
     mnuEditarItemRight(s);
@@ -78,17 +70,14 @@ TEST_F(ItemMenu, RemoverOUltimoItemPerguntaEOferecemRemoverABanda)
     ui.respostas = {Resposta::Cancelar};
     mnuEditarItemRemover(s);
     EXPECT_EQ(s.Documento.NumBandas(), 1);
-    EXPECT_EQ(s.BandaSelecionada, 1);
-    EXPECT_EQ(s.ItemSelecionado, 0);
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
 
     // The last item of the last band: the band removal refuses.
-    mnuEditarItemRemover(s);  // no item selected: nothing
     Montar({{64}});
     Selecionar(1, 1);
     ui.respostas = {Resposta::Sim};
     mnuEditarItemRemover(s);
-    EXPECT_EQ(s.Documento.NumBandas(), 1);
-    EXPECT_EQ(B(1).NumItens(), 1);
+    EXPECT_EQ(Textos(1), QStringList{"1.1"});
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível remover a última banda!"));
 }
@@ -96,52 +85,40 @@ TEST_F(ItemMenu, RemoverOUltimoItemPerguntaEOferecemRemoverABanda)
 TEST_F(ItemMenu, FiguraPerdeOAnguloEOsOutrosTiposOMantem)
 {
     Montar({{64, 32, 16}});
-    s.Documento.banda(1).Itens[0].Atributos = QStringLiteral("0000109010");
-    s.Documento.banda(1).Itens[1].Atributos = QStringLiteral("0000108010");
-    s.Documento.banda(1).Itens[2].Atributos = QStringLiteral("0000105010");
+    for (int i = 0; i < 3; ++i)
+        s.Documento.banda(1).Itens[i].Atributos = QStringLiteral("000010") + QChar::fromLatin1("985"[i]) + QStringLiteral("010");
     Selecionar(1, 1);
     DefinirTipoItem(s, TipoComando);
     EXPECT_EQ(I(1, 1).Tipo, TipoComando);
     EXPECT_EQ(I(1, 1).Atributos, QStringLiteral("0000109010"));
     SelecionarFaixa(s, 1, 2);
     DefinirTipoItem(s, TipoFigura);
-    EXPECT_EQ(I(1, 1).Atributos, QStringLiteral("0000101010"));
-    EXPECT_EQ(I(1, 2).Atributos, QStringLiteral("0000100010"));
-    EXPECT_EQ(I(1, 2).Tipo, TipoFigura);
-    EXPECT_EQ(I(1, 3).Tipo, TipoTexto);
-    EXPECT_EQ(I(1, 3).Atributos, QStringLiteral("0000105010"));
+    EXPECT_EQ(DosItens(1, [](const Item &i) { return i.Tipo; }), (QList<uint8_t>{TipoFigura, TipoFigura, TipoTexto}));
+    EXPECT_EQ(DosItens(1, [](const Item &i) { return i.Atributos; }),
+              (QStringList{"0000101010", "0000100010", "0000105010"}));
 }
 
 TEST_F(ItemMenu, MenuEditarHabilitaPeloItemEPeloTipo)
 {
     Montar({{64, 32}, {16}});
     EstadoMenuEditar e = PrepararMenuEditar(s, false);
-    EXPECT_FALSE(e.itemComandos);
-    EXPECT_FALSE(e.tipoTexto || e.tipoFigura || e.tipoComando || e.tipoCodigoBarras);
-    EXPECT_FALSE(e.desfazer);
-    EXPECT_FALSE(e.bandaPagina);
+    EXPECT_FALSE(e.itemComandos || e.tipoTexto || e.tipoFigura || e.tipoComando || e.tipoCodigoBarras);
+    EXPECT_FALSE(e.desfazer || e.bandaPagina);
     EXPECT_EQ(e.legendaBandaPagina, QStringLiteral("&Quebrar a Página"));
     EXPECT_EQ(e.legendaBandaAuto, QStringLiteral("Alt&ura automática"));
 
     Selecionar(1, 1);
     mnuEditarItemInserir(s);
-    e = PrepararMenuEditar(s, false);
-    EXPECT_TRUE(e.desfazer);
+    EXPECT_TRUE(PrepararMenuEditar(s, false).desfazer);
     EXPECT_FALSE(PrepararMenuEditar(s, true).desfazer);
-    const struct {
-        uint8_t tipo;
-        bool texto, figura, comando, barras;
-    } casos[] = {{0, false, true, true, true},  {1, true, false, true, true},  {2, true, true, false, true},
-                 {31, true, true, true, false}, {39, true, true, true, false}, {60, true, true, true, false},
-                 {80, true, true, true, false}};
-    for (const auto &c : casos) {
-        s.Documento.banda(1).Itens[s.ItemSelecionado - 1].Tipo = c.tipo;
+    // The entry of the item's own type is the disabled one; every barcode is one type.
+    for (const auto &[tipo, desabilitado] : {std::pair{0, 0}, {1, 1}, {2, 2}, {31, 3}, {39, 3}, {60, 3}, {80, 3}}) {
+        s.Documento.banda(1).Itens[s.ItemSelecionado - 1].Tipo = uint8_t(tipo);
         e = PrepararMenuEditar(s, false);
         EXPECT_TRUE(e.itemComandos);
-        EXPECT_EQ(e.tipoTexto, c.texto) << int(c.tipo);
-        EXPECT_EQ(e.tipoFigura, c.figura) << int(c.tipo);
-        EXPECT_EQ(e.tipoComando, c.comando) << int(c.tipo);
-        EXPECT_EQ(e.tipoCodigoBarras, c.barras) << int(c.tipo);
+        const bool tipos[] = {e.tipoTexto, e.tipoFigura, e.tipoComando, e.tipoCodigoBarras};
+        for (int k = 0; k < 4; ++k)
+            EXPECT_EQ(tipos[k], k != desabilitado) << tipo << " " << k;
     }
     Selecionar(2, 0);
     s.Documento.banda(2).Altura = -30;

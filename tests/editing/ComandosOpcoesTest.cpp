@@ -1,41 +1,32 @@
 #include "editing/ComandosOpcoes.h"
 #include "editing/SessaoEdicao.h"
+#include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 
-#include <QSettings>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
 
-TEST(Margens, QuotedNumbersAndNamesReadBackAsWritten)
+TEST(ComandosOpcoes, MargensImpressoraEQualidadeLidasEGravadasComoODialogoMostra)
 {
-    const MargemLida meio = LerMargem(QStringLiteral("\"12.5\""));
-    EXPECT_TRUE(meio.numero);
-    EXPECT_DOUBLE_EQ(meio.milimetros, 12.5);
-    EXPECT_EQ(GravarMargem(meio.milimetros, QString()), QStringLiteral("\"12.5\""));
+    // Quoted numbers read back as written; only the leading number counts,
+    // none reads as 0; anything else is a host-program name kept as it is.
+    EXPECT_EQ(GravarMargem(LerMargem(QStringLiteral("\"12.5\"")).milimetros, QString()), QStringLiteral("\"12.5\""));
     EXPECT_EQ(GravarMargem(10, QString()), QStringLiteral("\"10\""));
-
-    const MargemLida nome = LerMargem(QStringLiteral("MARGEM-SUP"));
-    EXPECT_FALSE(nome.numero);
-    EXPECT_EQ(nome.comando, QStringLiteral("MARGEM-SUP"));
-    EXPECT_EQ(GravarMargem(0, nome.comando), QStringLiteral("MARGEM-SUP"));
-
-    // Only the leading number counts; no number reads as 0.
     EXPECT_DOUBLE_EQ(LerMargem(QStringLiteral("\"7.25mm\"")).milimetros, 7.25);
     EXPECT_DOUBLE_EQ(LerMargem(QStringLiteral("\"abc\"")).milimetros, 0);
-}
+    const MargemLida nome = LerMargem(QStringLiteral("MARGEM-SUP"));
+    EXPECT_FALSE(nome.numero);
+    EXPECT_TRUE(LerMargem(QStringLiteral("\"1\"")).numero);
+    EXPECT_EQ(GravarMargem(0, nome.comando), QStringLiteral("MARGEM-SUP"));
 
-TEST(Impressora, TypedNamesMatchInAnyCaseAndSpecialEntriesMapToValues)
-{
+    // Typed printer names match in any case; the two special entries map to values.
     const QStringList lista = ListaImpressoras({QStringLiteral("HP LaserJet"), QStringLiteral("Epson")});
-    ASSERT_EQ(lista.size(), 4);
-    EXPECT_EQ(lista[0], QStringLiteral("<< Padrão do Windows >>"));
-    EXPECT_EQ(lista[1], QStringLiteral("<< O usuário seleciona >>"));
-    EXPECT_EQ(EntradaImpressora(lista, QStringLiteral("  epson ")), 3);
-    EXPECT_EQ(EntradaImpressora(lista, QStringLiteral("<< o usuário seleciona >>")), 1);
-    EXPECT_EQ(EntradaImpressora(lista, QStringLiteral("<< O USUÁRIO SELECIONA >>")), 1);
-    EXPECT_EQ(EntradaImpressora(lista, QStringLiteral("Canon")), -1);
+    EXPECT_EQ(lista.mid(0, 2), (QStringList{"<< Padrão do Windows >>", "<< O usuário seleciona >>"}));
+    EXPECT_EQ(lista.size(), 4);
+    for (const auto &[digitado, entrada] : {std::pair{"  epson ", 3}, {"<< o usuário seleciona >>", 1},
+                                            {"<< O USUÁRIO SELECIONA >>", 1}, {"Canon", -1}})
+        EXPECT_EQ(EntradaImpressora(lista, QString::fromUtf8(digitado)), entrada) << digitado;
     EXPECT_EQ(EntradaDoValor(lista, QString()), 0);
     EXPECT_EQ(EntradaDoValor(lista, QStringLiteral("<?>")), 1);
     EXPECT_EQ(EntradaDoValor(lista, QStringLiteral("hp laserjet")), 2);
@@ -43,28 +34,20 @@ TEST(Impressora, TypedNamesMatchInAnyCaseAndSpecialEntriesMapToValues)
     EXPECT_EQ(ValorImpressora(1, QStringLiteral("x")), QStringLiteral("<?>"));
     EXPECT_EQ(ValorImpressora(2, QStringLiteral("hp laserjet")), QStringLiteral("hp laserjet"));
     EXPECT_EQ(ValorImpressora(-1, QStringLiteral("Canon")), QStringLiteral("Canon"));
+
+    for (const auto &[pedida, qualidade] : {std::pair{0, 1}, {-5, 1}, {150, 100}, {75, 75}})
+        EXPECT_EQ(LimitarQualidadeJPG(pedida), qualidade) << pedida;
 }
 
-TEST(QualidadeJPG, ClampedToOneHundredPercent)
+TEST(ComandosOpcoes, TextoEmVariasLinhasLigaOEstiloEOInalteradoNaoGuardaInstantaneo)
 {
-    EXPECT_EQ(LimitarQualidadeJPG(0), 1);
-    EXPECT_EQ(LimitarQualidadeJPG(-5), 1);
-    EXPECT_EQ(LimitarQualidadeJPG(150), 100);
-    EXPECT_EQ(LimitarQualidadeJPG(75), 75);
-}
-
-TEST(TextoEstilo, SeveralLinesTurnOnTheFlagAndAnUnchangedTextTakesNoSnapshot)
-{
-    QTemporaryDir config;
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, config.path());
+    teste::ConfigTemporaria cfg;
     teste::InterfaceRoteirizada ui;
     SessaoEdicao s;
     s.Ui = &ui;
     s.ItemSelecionado = 1;
-    const Item antes = s.Documento.banda(1).Itens[0];
-    DefinirTextoEstilo(s, antes.Texto);
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_FALSE(s.PodeDesfazer());
+    DefinirTextoEstilo(s, s.Documento.banda(1).Itens[0].Texto);
+    EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
 
     DefinirTextoEstilo(s, QStringLiteral("Total{E}Geral"));
     const Item &depois = s.Documento.banda(1).Itens[0];

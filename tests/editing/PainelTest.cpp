@@ -13,6 +13,8 @@ using namespace lumeta;
 
 namespace {
 
+constexpr double PxPorMm = 3.7795275;
+
 // Band 1: a text, a picture, a barcode; band 2: a text and a command.
 class PainelTest : public ::testing::Test {
 protected:
@@ -29,8 +31,7 @@ protected:
         b2.Itens = {teste::NovoItem(TipoTexto, QStringLiteral("Total"), 0, 64),
                     teste::NovoItem(TipoComando, QStringLiteral("X"), 0, 64)};
         s.Documento.Bandas.append(b2);
-        s.BandaSelecionada = 1;
-        s.ItemSelecionado = 1;
+        Selecionar(1, 1);
         s.ExibirBanda();
     }
     Item &item(int b, int i) { return s.Documento.banda(b).Itens[i - 1]; }
@@ -46,6 +47,21 @@ protected:
         Selecionar(1, 1);
         s.Faixa = {true, 1, 2, 1, 2};
     }
+    // Which of the given check boxes (1-based, as the panel numbers them) show.
+    static QString Visiveis(const EstadoPainel &e, std::initializer_list<int> caixas)
+    {
+        QString r;
+        for (int c : caixas)
+            r += e.caixas[c - 1].visivel ? u'1' : u'0';
+        return r;
+    }
+    QString Angulos() const
+    {
+        QString r;
+        for (const Item &it : s.Documento.banda(1).Itens)
+            r += it.Atributos.at(6);
+        return r;
+    }
     QTemporaryDir config;
     teste::InterfaceRoteirizada ui;
     SessaoEdicao s;
@@ -53,27 +69,7 @@ protected:
 
 }  // namespace
 
-TEST_F(PainelTest, SemItemTudoDesabilitado)
-{
-    item(1, 1).CorFundo = 3;
-    s.ItemSelecionado = 0;
-    const EstadoPainel e = CalcularPainel(s);
-    EXPECT_FALSE(e.temItem);
-    EXPECT_FALSE(e.cabecalhoHabilitado || e.cabecalho || e.rodapeHabilitado || e.rodape);
-    EXPECT_TRUE(e.texto.isEmpty());
-    EXPECT_FALSE(e.textoHabilitado || e.fonteHabilitado || e.camposHabilitados || e.botoesItem);
-    EXPECT_FALSE(e.autoVisivel);
-    EXPECT_FALSE(e.tipoHabilitado);
-    EXPECT_FALSE(e.anguloHabilitado);
-    EXPECT_EQ(e.angulo, 0);
-    EXPECT_TRUE(e.linhasVisivel);
-    EXPECT_EQ(e.legendaCor, QStringLiteral("Cor do item:"));
-    EXPECT_FALSE(e.tamanhoVisivel);
-    EXPECT_EQ(e.corFundo, -1);
-    EXPECT_EQ(e.selecionado, QStringLiteral("(1)"));
-}
-
-TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomatica)
+TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomaticaESemItemDesabilita)
 {
     s.DefinirUnidade(6);   // mm
     s.Documento.BandaRodape = 1;
@@ -84,23 +80,21 @@ TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomatica)
     item(1, 1).Linhas = QStringLiteral("0100010000");
     item(1, 1).Espessura = 3;
     EstadoPainel e = CalcularPainel(s);
-    EXPECT_TRUE(e.temItem && e.textoHabilitado && e.botoesItem && e.fonteHabilitado);
+    EXPECT_TRUE(e.temItem && e.textoHabilitado && e.botoesItem && e.fonteHabilitado && e.alturaHabilitada);
     EXPECT_EQ(e.texto, QStringLiteral("Nome"));
-    EXPECT_FALSE(e.cabecalho);
+    EXPECT_FALSE(e.cabecalho || e.autoVisivel);
     EXPECT_TRUE(e.rodape);
-    EXPECT_NEAR(e.largura, 80 / 3.7795275, 1e-9);
-    EXPECT_NEAR(e.altura, 38 / 3.7795275, 1e-9);
-    EXPECT_NEAR(e.deslocamento, 19 / 3.7795275, 1e-9);
+    EXPECT_NEAR(e.largura, 80 / PxPorMm, 1e-9);
+    EXPECT_NEAR(e.altura, 38 / PxPorMm, 1e-9);
+    EXPECT_NEAR(e.deslocamento, 19 / PxPorMm, 1e-9);
     EXPECT_DOUBLE_EQ(e.topo, 0);   // band 1's top shows as 0
-    EXPECT_TRUE(e.alturaHabilitada);
-    EXPECT_FALSE(e.autoVisivel);
     EXPECT_EQ(e.espessura, 3);
     // Position 7 of "9": justify and 270°.
-    EXPECT_TRUE(e.caixas[6].marcada);
     EXPECT_EQ(e.angulo, 3);
-    EXPECT_TRUE(e.caixas[0].marcada);
-    EXPECT_FALSE(e.caixas[1].marcada);
-    EXPECT_TRUE(e.caixas[4].marcada);
+    QString marcadas;
+    for (const EstadoCaixa &c : e.caixas)
+        marcadas += c.marcada ? u'1' : u'0';
+    EXPECT_EQ(marcadas.left(7), QStringLiteral("1000101"));
     EXPECT_EQ(e.linhas, (std::array<bool, 6>{false, true, false, false, false, true}));
     EXPECT_EQ(e.selecionado, QStringLiteral("(1, 1)"));
 
@@ -108,9 +102,23 @@ TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomatica)
     e = CalcularPainel(s);
     EXPECT_FALSE(e.alturaHabilitada);
     EXPECT_TRUE(e.autoVisivel);
-    EXPECT_NEAR(e.altura, 38 / 3.7795275, 1e-9);
+    EXPECT_NEAR(e.altura, 38 / PxPorMm, 1e-9);
     Selecionar(2, 1);
-    EXPECT_NEAR(CalcularPainel(s).topo, (s.Documento.banda(2).Topo - 16) / 3.7795275, 1e-9);
+    EXPECT_NEAR(CalcularPainel(s).topo, (s.Documento.banda(2).Topo - 16) / PxPorMm, 1e-9);
+
+    // Without an item everything is off and the colours show none.
+    item(2, 1).CorFundo = 3;
+    Selecionar(2, 0);
+    e = CalcularPainel(s);
+    EXPECT_FALSE(e.temItem || e.cabecalhoHabilitado || e.cabecalho || e.rodapeHabilitado || e.rodape);
+    EXPECT_FALSE(e.textoHabilitado || e.fonteHabilitado || e.camposHabilitados || e.botoesItem);
+    EXPECT_FALSE(e.autoVisivel || e.tipoHabilitado || e.anguloHabilitado || e.tamanhoVisivel);
+    EXPECT_TRUE(e.texto.isEmpty());
+    EXPECT_EQ(e.angulo, 0);
+    EXPECT_TRUE(e.linhasVisivel);
+    EXPECT_EQ(e.legendaCor, QStringLiteral("Cor do item:"));
+    EXPECT_EQ(e.corFundo, -1);
+    EXPECT_EQ(e.selecionado, QStringLiteral("(2)"));
 }
 
 TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
@@ -120,9 +128,8 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     EXPECT_EQ(e.tipo, 0);
     EXPECT_TRUE(e.anguloHabilitado);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("&Fonte"));
-    EXPECT_TRUE(e.caixas[4].visivel && e.caixas[5].visivel && e.caixas[7].visivel && e.caixas[6].visivel);
+    EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("11110"));
     EXPECT_EQ(e.caixas[6].legenda, QStringLiteral("&Justificar"));
-    EXPECT_FALSE(e.caixas[9].visivel);
     EXPECT_EQ(e.caixas[9].legenda, QStringLiteral("Cai&xa de texto"));
     EXPECT_FALSE(e.tamanhoVisivel);
     // Command.
@@ -130,7 +137,7 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     e = CalcularPainel(s);
     EXPECT_EQ(e.tipo, 2);
     EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar a fonte do item selecionado"));
-    // Picture.
+    // Picture: no angle, even one stored.
     Selecionar(1, 2);
     item(1, 2).Atributos[6] = u'4';
     e = CalcularPainel(s);
@@ -139,43 +146,36 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     EXPECT_EQ(e.angulo, 0);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("&Figura"));
     EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar a figura do item selecionado"));
-    EXPECT_FALSE(e.caixas[4].visivel || e.caixas[5].visivel || e.caixas[6].visivel || e.caixas[7].visivel);
-    EXPECT_TRUE(e.caixas[9].visivel);
+    EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00001"));
     EXPECT_EQ(e.caixas[9].dica, QStringLiteral("A figura não ultrapassa os limites do item"));
     // Linear barcode, zoom 3.
     Selecionar(1, 3);
     item(1, 3).Atributos[8] = u'3';
     e = CalcularPainel(s);
     EXPECT_EQ(e.tipo, 3);
-    EXPECT_TRUE(e.anguloHabilitado);
+    EXPECT_TRUE(e.anguloHabilitado && e.tamanhoVisivel && e.linhasVisivel);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("A&lterar"));
     EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar o código de barras do item selecionado"));
-    EXPECT_FALSE(e.caixas[4].visivel || e.caixas[5].visivel);
-    EXPECT_TRUE(e.caixas[6].visivel && e.caixas[7].visivel && e.caixas[9].visivel);
+    EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00111"));
     EXPECT_EQ(e.caixas[6].legenda, QStringLiteral("&Somente as barras"));
     EXPECT_EQ(e.caixas[9].dica, QStringLiteral("O código de barras fica com a altura da banda"));
-    EXPECT_TRUE(e.tamanhoVisivel);
     EXPECT_EQ(e.tamanho, 2);
-    EXPECT_TRUE(e.linhasVisivel);
     // PDF417: 7, 8 and 10 hidden again.
     item(1, 3).Tipo = TipoPDF417;
     e = CalcularPainel(s);
-    EXPECT_FALSE(e.caixas[6].visivel || e.caixas[7].visivel || e.caixas[9].visivel);
+    EXPECT_EQ(Visiveis(e, {7, 8, 10}), QStringLiteral("000"));
     EXPECT_TRUE(e.tamanhoVisivel);
     // Graph bar.
     item(1, 3).Tipo = TipoBarraGrafico;
     e = CalcularPainel(s);
     EXPECT_EQ(e.tipo, 3);
-    EXPECT_FALSE(e.anguloHabilitado);
-    EXPECT_FALSE(e.linhasVisivel);
+    EXPECT_FALSE(e.anguloHabilitado || e.linhasVisivel || e.tamanhoVisivel);
     EXPECT_EQ(e.legendaCor, QStringLiteral("Cor da barra:"));
-    EXPECT_FALSE(e.caixas[6].visivel);
-    EXPECT_TRUE(e.caixas[7].visivel && e.caixas[9].visivel);
-    EXPECT_FALSE(e.tamanhoVisivel);
+    EXPECT_EQ(Visiveis(e, {7, 8, 10}), QStringLiteral("011"));
     EXPECT_EQ(e.legendaFonte, QStringLiteral("A&lterar"));
 }
 
-TEST_F(PainelTest, CaixasAnguloEZoomSobreAFaixa)
+TEST_F(PainelTest, CaixasAnguloZoomEEspessuraSobreAFaixa)
 {
     item(1, 1).Atributos = QStringLiteral("0000108010");
     MarcarAtributo(s, 7, true);
@@ -188,14 +188,14 @@ TEST_F(PainelTest, CaixasAnguloEZoomSobreAFaixa)
     s.Faixa = {true, 1, 1, 1, 3};
     item(1, 1).Atributos[6] = u'1';
     DefinirAngulo(s, 2);
-    EXPECT_EQ(item(1, 1).Atributos.at(6), u'5');
-    EXPECT_EQ(item(1, 2).Atributos.at(6), u'0');
-    EXPECT_EQ(item(1, 3).Atributos.at(6), u'4');
+    EXPECT_EQ(Angulos(), QStringLiteral("504"));
     DefinirZoom(s, 3);
-    EXPECT_EQ(item(1, 3).Atributos.at(8), u'4');
-    EXPECT_EQ(item(1, 1).Atributos.at(8), u'1');
-    EXPECT_EQ(item(1, 2).Atributos.at(8), u'1');
+    QString zooms;
+    for (const Item &it : s.Documento.banda(1).Itens)
+        zooms += it.Atributos.at(8);
+    EXPECT_EQ(zooms, QStringLiteral("114"));
 
+    // The thickness stays within 1..64, and only inside the range.
     DefinirEspessura(s, 0);
     EXPECT_EQ(item(1, 2).Espessura, 1);
     DefinirEspessura(s, 100);
@@ -228,7 +228,7 @@ TEST_F(PainelTest, LarguraAlturaEDeslocamentoEmMilimetros)
     EXPECT_FALSE(ConfirmarDeslocamento(s, 2.1));   // 7.9 rounds to the same pixels
 }
 
-TEST_F(PainelTest, CabecalhoERodapeComQuebraFinal)
+TEST_F(PainelTest, CabecalhoERodapeSeExcluemEORodapeDesligaAQuebraFinal)
 {
     Selecionar(2, 1);
     MarcarCabecalho(s, true);
@@ -241,7 +241,6 @@ TEST_F(PainelTest, CabecalhoERodapeComQuebraFinal)
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, msg);
     EXPECT_TRUE(msg.startsWith(QStringLiteral("Não é possível finalizar com quebra de página")));
-    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Rodapé"));
     Selecionar(1, 1);
     MarcarCabecalho(s, true);
     EXPECT_EQ(s.Documento.BandaRodape, 2);
@@ -251,18 +250,19 @@ TEST_F(PainelTest, CabecalhoERodapeComQuebraFinal)
 
 TEST_F(PainelTest, CoresBasicasEPaletaExtendida)
 {
+    const auto cores = [&] {
+        const Item &it = item(1, 1);
+        return std::tuple(int(it.CorTexto), int(it.CorFundo), int(it.CorLinha));
+    };
     CliqueCores(s, 11, true);
     EXPECT_EQ(item(1, 1).CorTexto, 1);
     CliqueCores(s, 10, true);
-    EXPECT_EQ(item(1, 1).CorTexto, 0);
     CliqueCores(s, 16 * 11 + 3, false);
-    EXPECT_EQ(item(1, 1).CorFundo, CorTransparente);
-    CliqueCores(s, 16 * 11 + 3, true);
-    EXPECT_EQ(item(1, 1).CorTexto, 0);
+    CliqueCores(s, 16 * 11 + 3, true);   // no text colour is transparent
+    EXPECT_EQ(cores(), std::tuple(0, int(CorTransparente), 0));
     CliqueCoresLinhas(s, 500, true);
-    EXPECT_EQ(item(1, 1).CorLinha, 15);
     CliqueCoresLinhas(s, 22, false);
-    EXPECT_EQ(item(1, 1).CorFundo, 2);
+    EXPECT_EQ(cores(), std::tuple(0, 2, 15));
 
     EXPECT_EQ(NumeroPaletaExtendida(0, 0), 16);
     EXPECT_EQ(NumeroPaletaExtendida(127, 127), 79);
@@ -272,9 +272,8 @@ TEST_F(PainelTest, CoresBasicasEPaletaExtendida)
     // A basic colour drops the macro of its letter only.
     item(1, 1).Texto = QStringLiteral("<%_T,1,2,3_%><%_F,4,5,6_%>Nome");
     CliquePaletaExtendida(s, AlvoPaleta::Linha, 20, 0, true);
-    EXPECT_EQ(item(1, 1).CorLinha, 17);
     CliquePaletaExtendida(s, AlvoPaleta::Item, 0, 16, true);
-    EXPECT_EQ(item(1, 1).CorTexto, 24);
+    EXPECT_EQ(cores(), std::tuple(24, 2, 17));
     EXPECT_EQ(item(1, 1).Texto, QStringLiteral("<%_F,4,5,6_%>Nome"));
     CliquePaletaExtendida(s, AlvoPaleta::Linha, 0, 0, false);
     EXPECT_EQ(item(1, 1).CorFundo, 16);
@@ -285,15 +284,18 @@ TEST_F(PainelTest, CorLivreSoNosItensDeTextoDaFaixa)
 {
     FaixaDuasBandas();
     ui.cores = {0x0000FF, 0x102030, std::nullopt};
+    const auto textos = [&] {
+        QStringList r;
+        for (int b = 1; b <= 2; ++b)
+            for (const Item &it : s.Documento.banda(b).Itens)
+                r << it.Texto;
+        return r;
+    };
     EXPECT_TRUE(CorLivre(s, u'F'));
-    EXPECT_EQ(item(1, 1).Texto, QStringLiteral("<%_F,255,0,0_%>Nome"));
+    EXPECT_EQ(textos(), (QStringList{"<%_F,255,0,0_%>Nome", "\"a.bmp\"", "789", "<%_F,255,0,0_%>Total", "X"}));
     EXPECT_EQ(item(1, 1).CorTexto, 72);
-    EXPECT_EQ(item(2, 1).Texto, QStringLiteral("<%_F,255,0,0_%>Total"));
-    EXPECT_EQ(item(1, 2).Texto, QStringLiteral("\"a.bmp\""));
-    EXPECT_EQ(item(1, 3).Texto, QStringLiteral("789"));
-    EXPECT_EQ(item(2, 2).Texto, QStringLiteral("X"));
     EXPECT_EQ(item(1, 2).CorTexto, 0);
-    // Again: one background macro, the latest.
+    // Again: one background macro, the latest; a cancelled dialog changes nothing.
     EXPECT_TRUE(CorLivre(s, u'F'));
     EXPECT_EQ(item(1, 1).Texto, QStringLiteral("<%_F,48,32,16_%>Nome"));
     EXPECT_FALSE(CorLivre(s, u'T'));

@@ -17,11 +17,12 @@ std::pair<int, int> Hit(const SessaoEdicao &s, int x, int y)
 TEST_F(Selecao, LocalizarPontoVarreDaUltimaBandaComItensOitoPixelsADireita)
 {
     Montar({{64, 32}, {40}, {16, 16, 16}});
-    // Band 2 lies over band 1; band 3 follows at 34.
-    s.Documento.banda(2).Deslocamento = -18;
+    // Band 2 lies over band 1, as high as it goes (its own top would be
+    // above band 1's); band 3 follows at 34, under band 2's height magnitude.
+    s.Documento.banda(2).Deslocamento = -30;
+    s.Documento.banda(2).Altura = -18;
     Reposicionar();
-    ASSERT_EQ(B(2).Topo, 16);
-    ASSERT_EQ(B(3).Topo, 34);
+    ASSERT_EQ(Topos(), (QList<int32_t>{16, 16, 34}));
 
     EXPECT_EQ(Hit(s, 20, 20), std::make_pair(2, 1));   // the later band wins where both have an item
     EXPECT_EQ(Hit(s, 60, 20), std::make_pair(1, 1));   // band 2 has nothing there: band 1 goes on
@@ -43,29 +44,29 @@ TEST_F(Selecao, CliqueAcimaDaPrimeiraAbaixoDaUltimaNoVazioENoMesmoItem)
     Reposicionar();
 
     EXPECT_EQ(MouseDownCanvas(s, 80, 40, BotaoMouse::Esquerdo, false), ReacaoMouse::Nada);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(2, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(2, 0));
 
     MouseDownCanvas(s, 30, 2, BotaoMouse::Esquerdo, false);   // above band 1: band 1, no item
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
     EXPECT_FALSE(s.CliqueAbaixoDaUltimaBanda);
 
     MouseDownCanvas(s, 30, 500, BotaoMouse::Esquerdo, false);  // below the last band
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(3, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(3, 0));
     EXPECT_TRUE(s.CliqueAbaixoDaUltimaBanda);
 
     MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 1));
     MouseDownCanvas(s, 12, 25, BotaoMouse::Esquerdo, false);  // the selected item again
     EXPECT_EQ(s.ItemSelecionado, 1);
     // The gap between bands 2 and 3 deselects the item and keeps the band.
     MouseDownCanvas(s, 10, B(2).Topo + 18 + 5, BotaoMouse::Esquerdo, false);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
     MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);
     MouseDownCanvas(s, 200, 20, BotaoMouse::Esquerdo, false);  // empty part of the selected band
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
     // A right click moves the selection like a left one and asks for the menu.
     EXPECT_EQ(MouseDownCanvas(s, 10, 40, BotaoMouse::Direito, false), ReacaoMouse::MenuEditar);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(2, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(2, 1));
     EXPECT_EQ(pinturas, 0);  // selecting is not an edit
 }
 
@@ -75,17 +76,17 @@ TEST_F(Selecao, ShiftCliqueEBotaoDireitoDentroDaFaixa)
     MouseDownCanvas(s, 10, 20, BotaoMouse::Esquerdo, false);  // (1, 1)
     MouseDownCanvas(s, 50, 40, BotaoMouse::Esquerdo, true);   // Shift on (2, 2)
     EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 1, 2, 1, 2}));
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 1));
 
     // A right click in the range keeps it and only asks for the menu; over
     // several bands every item of those bands counts as inside.
     EXPECT_EQ(MouseDownCanvas(s, 100, 40, BotaoMouse::Direito, false), ReacaoMouse::MenuEditar);
     EXPECT_TRUE(s.Faixa.visivel);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 1));
     // Outside it the range goes and the selection follows the click.
     EXPECT_EQ(MouseDownCanvas(s, 10, 60, BotaoMouse::Direito, false), ReacaoMouse::MenuEditar);
     EXPECT_FALSE(s.Faixa.visivel);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(3, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(3, 1));
 
     // A range inside one band: items outside its span are outside it.
     MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, false);  // (2, 1)
@@ -104,7 +105,7 @@ TEST_F(Selecao, ShiftCliqueEBotaoDireitoDentroDaFaixa)
     MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, true);
     MouseDownCanvas(s, 300, 20, BotaoMouse::Esquerdo, true);
     EXPECT_FALSE(s.Faixa.visivel);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 0));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
     // With no item selected, the range's items are the hit item alone.
     MouseDownCanvas(s, 50, 60, BotaoMouse::Esquerdo, true);  // (3, 3)
     EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 1, 3, 3, 3}));
@@ -152,7 +153,7 @@ TEST_F(Selecao, SelecionarTudoEOsQuadrosDaSelecao)
     Montar({{64, 32}, {40}, {16, 16, 16, 100}});
     Selecionar(3, 2);
     mnuEditarTudo(s);
-    EXPECT_EQ(std::make_pair(s.BandaSelecionada, s.ItemSelecionado), std::make_pair(1, 1));
+    EXPECT_EQ(Selecionado(), std::make_pair(1, 1));
     EXPECT_EQ(s.Faixa, (FaixaSelecao{true, 1, 3, 1, 2}));
     // As wide as the widest band, from the first band's top to the last's bottom.
     EXPECT_EQ(RetanguloFaixa(s), QRect(7, 15, 150, 56));

@@ -29,23 +29,19 @@ protected:
     {
         LayoutDocumento &d = s.Documento;
         d.Bandas.clear();
-        int b = 0;
         for (const auto &larguras : bandas) {
             Banda banda;
             banda.Altura = 18;
-            ++b;
-            int i = 0;
             for (int w : larguras) {
                 Item it;
                 it.Largura = w;
-                it.Texto = QStringLiteral("%1.%2").arg(b).arg(++i);
+                it.Texto = QStringLiteral("%1.%2").arg(d.Bandas.size() + 1).arg(banda.Itens.size() + 1);
                 banda.Itens.append(it);
             }
             d.Bandas.append(banda);
         }
         Reposicionar();
-        s.BandaSelecionada = 1;
-        s.ItemSelecionado = 0;
+        Selecionar(1, 0);
         s.Faixa = FaixaSelecao();
         s.Desfazer.PosicaoDesfazer = AnelDesfazer::NumPosicoes;
         s.ExibirBanda();
@@ -63,6 +59,7 @@ protected:
         s.BandaSelecionada = banda;
         s.ItemSelecionado = item;
     }
+    std::pair<int, int> Selecionado() const { return {s.BandaSelecionada, s.ItemSelecionado}; }
     // A click on one point, then a Shift+click on another: the range between.
     void CliqueEShiftClique(int x1, int y1, int x2, int y2)
     {
@@ -71,21 +68,27 @@ protected:
     }
     const Banda &B(int n) const { return s.Documento.banda(n); }
     const Item &I(int banda, int item) const { return s.Documento.banda(banda).Itens[item - 1]; }
-    // The texts of a band's items, to read orders at a glance.
-    QStringList Textos(int banda) const
+    // A band's items or the bands, one field each, to read a layout at a glance.
+    template <typename F> auto DosItens(int banda, F campo) const
     {
-        QStringList r;
+        QList<decltype(campo(B(banda).Itens[0]))> r;
         for (const Item &it : B(banda).Itens)
-            r << it.Texto;
+            r << campo(it);
         return r;
     }
-    QStringList PrimeirosTextos() const
+    template <typename F> auto DasBandas(F campo) const
     {
-        QStringList r;
-        for (int b = 1; b <= s.Documento.NumBandas(); ++b)
-            r << B(b).Itens.first().Texto;
+        QList<decltype(campo(B(1)))> r;
+        for (const Banda &b : s.Documento.Bandas)
+            r << campo(b);
         return r;
     }
+    QStringList Textos(int banda) const { return DosItens(banda, [](const Item &i) { return i.Texto; }); }
+    QList<int32_t> Larguras(int banda) const { return DosItens(banda, [](const Item &i) { return i.Largura; }); }
+    QList<int32_t> Esquerdas(int banda) const { return DosItens(banda, [](const Item &i) { return i.Esquerda; }); }
+    QList<int32_t> Alturas() const { return DasBandas([](const Banda &b) { return b.Altura; }); }
+    QList<int32_t> Topos() const { return DasBandas([](const Banda &b) { return b.Topo; }); }
+    QStringList PrimeirosTextos() const { return DasBandas([](const Banda &b) { return b.Itens.first().Texto; }); }
 
     QTemporaryDir pasta;
     InterfaceRoteirizada ui;

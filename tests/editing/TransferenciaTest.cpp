@@ -270,13 +270,4 @@ TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
         EXPECT_FALSE(s.Faixa.visivel);
     }
     EXPECT_EQ(desfeitos, 12);
-
-    // After fewer edits undo stops at the state the layout was built with.
-    Montar({{64}});
-    mnuEditarBandaAdicionar(s);
-    mnuEditarBandaAdicionar(s);
-    s.DesfazerEdicao();
-    s.DesfazerEdicao();
-    EXPECT_FALSE(s.PodeDesfazer());
-    EXPECT_EQ(s.Documento.NumBandas(), 1);
 }

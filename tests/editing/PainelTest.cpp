@@ -313,7 +313,9 @@ TEST_F(PainelTest, TextoFonteFiguraEMacros)
 
     EXPECT_EQ(AcaoFonte(s), AcaoBotaoFonte::Fonte);   // a range always opens the font dialog
     ui.fontes = {FonteEscolhida{QStringLiteral(" "), 12}, FonteEscolhida{QStringLiteral("Courier New"), 11.5, true}};
+    s.Config.FontesImpressora = true;
     EXPECT_FALSE(AlterarFonte(s));
+    s.Config.FontesImpressora = false;
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, MensagemFonteInvalida);
     EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Fonte"));
@@ -322,6 +324,7 @@ TEST_F(PainelTest, TextoFonteFiguraEMacros)
     EXPECT_EQ(item(2, 2).Fonte.Nome, QStringLiteral("Courier New"));
     EXPECT_EQ(item(2, 2).Fonte.Tamanho, 12);
     EXPECT_TRUE(item(1, 3).Fonte.Negrito);
+    EXPECT_EQ(ui.fontesSoImpressao, (std::vector<bool>{true, false}));
 
     Selecionar(1, 2);
     EXPECT_EQ(AcaoFonte(s), AcaoBotaoFonte::Figura);

@@ -603,6 +603,10 @@ void frmLumetaEdit::criarJanela()
     colunaResultado->setMinimumWidth(160);
     divisor->addWidget(areaCanvas);
     divisor->addWidget(colunaResultado);
+    // A narrow window still shows a strip of the page: the result pane gives
+    // way first.
+    areaCanvas->setMinimumWidth(rolagemPainel->width() + 200);
+    colunaResultado->setMinimumWidth(90);
     divisor->setStretchFactor(0, 1);
     divisor->setStretchFactor(1, 0);
     divisor->setSizes({800, 300});

@@ -70,37 +70,30 @@ TEST(CliCodigoBarras, RecusasComMensagemECodigo)
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
     const QString arquivo = dir.filePath(QStringLiteral("x.png"));
+    const QString semPasta = dir.filePath(QStringLiteral("nao/existe/x.png"));
     const QString uso = QStringLiteral(
         "Uso: lumetaedit-cli codigo-barras TIPO VALOR SAIDA.png [--angulo 0|90|180|270]\n");
 
-    Execucao e = Executar({QStringLiteral("31"), QStringLiteral("1")});
-    EXPECT_EQ(e.codigo, 2);
-    EXPECT_EQ(e.erros, uso);
-    e = Executar({QStringLiteral("31"), QStringLiteral("1"), arquivo, QStringLiteral("--angulo")});
-    EXPECT_EQ(e.codigo, 2);
-    EXPECT_EQ(e.erros, uso);
-
-    e = Executar({QStringLiteral("60"), QStringLiteral("1"), arquivo});
-    EXPECT_EQ(e.codigo, 2);
-    EXPECT_EQ(e.erros, QStringLiteral("Tipo de código de barras inválido: 60 (use 31 a 39, ou 80 para PDF417)\n"));
-    e = Executar({QStringLiteral("abc"), QStringLiteral("1"), arquivo});
-    EXPECT_EQ(e.codigo, 2);
-
-    e = Executar({QStringLiteral("31"), QStringLiteral("1"), arquivo, QStringLiteral("--angulo"), QStringLiteral("45")});
-    EXPECT_EQ(e.codigo, 2);
-    EXPECT_EQ(e.erros, QStringLiteral("Ângulo inválido: 45 (use 0, 90, 180 ou 270)\n"));
-
-    e = Executar({QStringLiteral("80"), QString(), arquivo});
-    EXPECT_EQ(e.codigo, 1);
-    EXPECT_EQ(e.erros, QStringLiteral("O valor do PDF417 está vazio.\n"));
-    e = Executar({QStringLiteral("80"), QString(3000, QLatin1Char('x')) + QStringLiteral("é"), arquivo});
-    EXPECT_EQ(e.codigo, 1);
-    EXPECT_EQ(e.erros, QStringLiteral("O valor não cabe em um símbolo PDF417.\n"));
+    struct Caso {
+        QStringList args;
+        int codigo;
+        QString erros;   // empty: any message
+    };
+    const Caso casos[] = {
+        {{"31", "1"}, 2, uso},
+        {{"31", "1", arquivo, "--angulo"}, 2, uso},
+        {{"60", "1", arquivo}, 2, "Tipo de código de barras inválido: 60 (use 31 a 39, ou 80 para PDF417)\n"},
+        {{"abc", "1", arquivo}, 2, {}},
+        {{"31", "1", arquivo, "--angulo", "45"}, 2, "Ângulo inválido: 45 (use 0, 90, 180 ou 270)\n"},
+        {{"80", "", arquivo}, 1, "O valor do PDF417 está vazio.\n"},
+        {{"80", QString(3000, u'x') + u'é', arquivo}, 1, "O valor não cabe em um símbolo PDF417.\n"},
+        {{"36", "A", semPasta}, 1, "Não foi possível gravar o arquivo " + semPasta + "\n\n76 - Caminho não encontrado\n"},
+    };
+    for (const Caso &c : casos) {
+        const Execucao e = Executar(c.args);
+        EXPECT_EQ(e.codigo, c.codigo) << c.args.join(u' ').left(40).toStdString();
+        if (!c.erros.isEmpty())
+            EXPECT_EQ(e.erros, c.erros);
+    }
     EXPECT_FALSE(QFile::exists(arquivo));
-
-    const QString semPasta = dir.filePath(QStringLiteral("nao/existe/x.png"));
-    e = Executar({QStringLiteral("36"), QStringLiteral("A"), semPasta});
-    EXPECT_EQ(e.codigo, 1);
-    EXPECT_EQ(e.erros, QStringLiteral("Não foi possível gravar o arquivo ") + semPasta
-                           + QStringLiteral("\n\n76 - Caminho não encontrado\n"));
 }

@@ -9,7 +9,9 @@
 #include "barcodes/ModCode39.h"
 #include "barcodes/ModEAN13and8.h"
 #include "barcodes/ModInterlace25.h"
+#include "document/Layout.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -108,38 +110,6 @@ TEST(Code39, LimpezaTabelaEVerificador)
     EXPECT_EQ(ModulosCode39(QString(), false), k39Asterisco + k39Asterisco);
 }
 
-TEST(Code39, PixelsLarguraELinhaLegivel)
-{
-    QImage img;
-    DesenharCode39(img, 40, QStringLiteral("ab*c"), false, true, 0);
-    ASSERT_EQ(img.size(), QSize(5 * 16 + 1, 52));
-    ConferirModulos(img, k39Asterisco + k39A + k39B + k39C + k39Asterisco, 1, 0, 40);
-    for (int y = 0; y < img.height(); ++y)
-        EXPECT_TRUE(Branco(img, 0, y)) << y;
-    // The digits sit below the bars, roughly centred on the symbol.
-    int esquerda = img.width(), direita = -1;
-    for (int y = 40; y < 52; ++y)
-        for (int x = 0; x < img.width(); ++x)
-            if (Preto(img, x, y)) {
-                esquerda = std::min(esquerda, x);
-                direita = std::max(direita, x);
-            }
-    ASSERT_GE(direita, 0);
-    EXPECT_NEAR((esquerda + direita) / 2.0, 40.0, 2.5);
-    // Every pixel is black or white.
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            ASSERT_TRUE(Preto(img, x, y) || Branco(img, x, y)) << x << "," << y;
-
-    DesenharCode39(img, 40, QStringLiteral("A"), true, false, 0);
-    ASSERT_EQ(img.size(), QSize(4 * 16 + 1, 40));
-    ConferirModulos(img, k39Asterisco + k39A + k39A + k39Asterisco, 1, 0, 40);
-
-    DesenharCode39(img, 30, QString(), false, true, 0);
-    EXPECT_EQ(img.size(), QSize(33, 42));
-    EXPECT_EQ(PixelsPretos(img, 0, 30, 32, 41), 0);
-}
-
 TEST(Code128C, LimpezaValoresEModulos)
 {
     EXPECT_EQ(LimparValorCode128C(QStringLiteral("123")), QStringLiteral("0123"));
@@ -163,17 +133,6 @@ TEST(Code128C, LimpezaValoresEModulos)
               std::string("11010011100") + "10110011100" + "10010001100" + "11001110100" + "1100011101011");
     // No digits: start C, check 105 mod 103 = 2, stop.
     EXPECT_EQ(ValoresCode128C(QString()), (QList<int>{105, 2}));
-
-    QImage img;
-    DesenharCode128C(img, 40, QStringLiteral("123"), true, 0);
-    const std::string m = ModulosCode128C(QStringLiteral("0123"));
-    ASSERT_EQ(img.size(), QSize(int(m.size()) + 2, 52));
-    ConferirModulos(img, m, 1, 0, 40);
-    // Two columns stay free on the right: the last module is the stop's bar.
-    for (int y = 0; y < 40; ++y) {
-        EXPECT_TRUE(Preto(img, int(m.size()), y));
-        EXPECT_TRUE(Branco(img, int(m.size()) + 1, y));
-    }
 }
 
 TEST(Code128B, LimpezaValoresEModulos)
@@ -185,13 +144,6 @@ TEST(Code128B, LimpezaValoresEModulos)
               std::string("11010010000") + "10100011000" + "10010000110" + "10100110000" + "1100011101011");
     // Space is 0 and "~" is 94.
     EXPECT_EQ(ValoresCode128B(QStringLiteral(" ~")), (QList<int>{104, 0, 94, (104 + 2 * 94) % 103}));
-
-    QImage img;
-    DesenharCode128B(img, 20, QStringLiteral("Ab"), false, 0);
-    ASSERT_EQ(img.size(), QSize(2 * 11 + 37, 20));
-    ConferirModulos(img, ModulosCode128B(QStringLiteral("Ab")), 1, 0, 20);
-    DesenharCode128B(img, 20, QString(), true, 0);
-    EXPECT_EQ(img.size(), QSize(37, 32));
 }
 
 TEST(EAN, LimpezaVerificadorEModulos)
@@ -218,53 +170,7 @@ TEST(EAN, LimpezaVerificadorEModulos)
                   + "1001110" + "1010000" + "1000100" + "1110010" + "101");
 }
 
-TEST(EAN, PixelsGuardasMaisLongasEPosicaoDosDigitos)
-{
-    QImage img;
-    const std::string m13 = ModulosEAN13(QStringLiteral("590123412345"));
-    ASSERT_EQ(m13.size(), 95u);
-
-    DesenharEAN13(img, 40, QStringLiteral("590123412345"), false, 0);
-    ASSERT_EQ(img.size(), QSize(96, 40));
-    ConferirModulos(img, m13, 1, 0, 40);
-
-    DesenharEAN13(img, 40, QStringLiteral("590123412345"), true, 0);
-    ASSERT_EQ(img.size(), QSize(106, 52));
-    ConferirModulos(img, m13, 11, 0, 40);
-    // Guard bars (start 11, 13; centre 57, 59; end 103, 105) run down the
-    // whole picture; data bars stop at the bar height and the rows below the
-    // digits are white.
-    for (const int x : {11, 13, 57, 59, 103, 105})
-        for (int y = 40; y < 52; ++y)
-            EXPECT_TRUE(Preto(img, x, y)) << x << "," << y;
-    for (int x = 14; x < 57; ++x)
-        for (int y = 49; y < 52; ++y)
-            EXPECT_TRUE(Branco(img, x, y)) << x << "," << y;
-    // The first digit stands left of the symbol, the others under their halves.
-    EXPECT_GT(PixelsPretos(img, 0, 40, 10, 51), 0);
-    EXPECT_GT(PixelsPretos(img, 15, 40, 55, 51), 0);
-    EXPECT_GT(PixelsPretos(img, 61, 40, 101, 51), 0);
-
-    DesenharEAN8(img, 30, QStringLiteral("1234567"), true, 0);
-    ASSERT_EQ(img.size(), QSize(78, 42));
-    ConferirModulos(img, ModulosEAN8(QStringLiteral("1234567")), 11, 0, 30);
-    for (const int x : {11, 13, 43, 45, 75, 77})
-        for (int y = 30; y < 42; ++y)
-            EXPECT_TRUE(Preto(img, x, y)) << x << "," << y;
-    // EAN-8 has no digit outside its guards.
-    EXPECT_EQ(PixelsPretos(img, 0, 0, 10, 41), 0);
-    EXPECT_GT(PixelsPretos(img, 14, 30, 42, 41), 0);
-    EXPECT_GT(PixelsPretos(img, 47, 30, 74, 41), 0);
-
-    DesenharEAN8(img, 30, QStringLiteral("1234567"), false, 0);
-    ASSERT_EQ(img.size(), QSize(68, 30));
-    ConferirModulos(img, ModulosEAN8(QStringLiteral("1234567")), 1, 0, 30);
-    // An empty value is all zeros, check digit 0.
-    DesenharEAN13(img, 30, QString(), false, 0);
-    ConferirModulos(img, ModulosEAN13(QStringLiteral("000000000000")), 1, 0, 30);
-}
-
-TEST(Interlace25, LimpezaModulosETextoNoTopo)
+TEST(Interlace25, LimpezaEModulos)
 {
     EXPECT_EQ(LimparValorInterlace25(QStringLiteral("12345")), QStringLiteral("012345"));
     EXPECT_EQ(LimparValorInterlace25(QStringLiteral("1a")), QStringLiteral("10"));
@@ -276,24 +182,90 @@ TEST(Interlace25, LimpezaModulosETextoNoTopo)
     const std::string m = std::string("1010") + "100010111011101000" + "100011100010101110"
                           + "100010111000101110" + "11101";
     EXPECT_EQ(ModulosInterlace25(QStringLiteral("012345")), m);
+}
 
-    QImage img;
-    DesenharInterlace25(img, 40, QStringLiteral("12345"), true, false, 0);
-    ASSERT_EQ(img.size(), QSize(64, 52));
-    ConferirModulos(img, m, 1, 0, 40);
-    EXPECT_GT(PixelsPretos(img, 0, 40, 63, 51), 0);
+TEST(CodigoBarras, BarrasPintadasModuloAModulo)
+{
+    // Each module one pixel wide from column x0, every bar row from topo down.
+    struct Caso {
+        int tipo;
+        const char *valor;
+        bool texto;
+        std::string modulos;
+        int x0, topo;
+    };
+    const std::string m25 = ModulosInterlace25(QStringLiteral("012345"));
+    const std::string m13 = ModulosEAN13(QStringLiteral("590123412345"));
+    const Caso casos[] = {
+        {TipoCode39, "ab*c", true, k39Asterisco + k39A + k39B + k39C + k39Asterisco, 1, 0},
+        {TipoCode39Check, "A", false, k39Asterisco + k39A + k39A + k39Asterisco, 1, 0},
+        {TipoCode128C, "123", true, ModulosCode128C(QStringLiteral("0123")), 1, 0},
+        {TipoCode128B, "Ab", false, ModulosCode128B(QStringLiteral("Ab")), 1, 0},
+        {TipoEAN13, "590123412345", false, m13, 1, 0},
+        {TipoEAN13, "590123412345", true, m13, 11, 0},
+        {TipoEAN13, "", false, ModulosEAN13(QStringLiteral("000000000000")), 1, 0},
+        {TipoEAN8, "1234567", true, ModulosEAN8(QStringLiteral("1234567")), 11, 0},
+        {TipoEAN8, "1234567", false, ModulosEAN8(QStringLiteral("1234567")), 1, 0},
+        {TipoInterlace25, "12345", true, m25, 1, 0},
+        {TipoInterlace25NumerosTopo, "12345", true, m25, 1, 12},  // the digits take the first rows
+    };
+    for (const Caso &c : casos) {
+        SCOPED_TRACE(std::to_string(c.tipo) + " " + c.valor);
+        const QImage img = DesenharCodigoBarras(c.tipo, QString::fromUtf8(c.valor), 40, c.texto, 0);
+        ConferirModulos(img, c.modulos, c.x0, c.topo, 40);
+        for (int y = 0; y < img.height(); ++y)
+            for (int x = 0; x < img.width(); ++x)
+                ASSERT_TRUE(Preto(img, x, y) || Branco(img, x, y)) << x << "," << y;
+    }
+}
 
-    // Digits on top: bars move 12 rows down, the text takes the first rows.
-    DesenharInterlace25(img, 40, QStringLiteral("12345"), true, true, 0);
-    ASSERT_EQ(img.size(), QSize(64, 52));
-    ConferirModulos(img, m, 1, 12, 40);
+TEST(CodigoBarras, DigitosEGuardasNoLugar)
+{
+    // Code 39: a white first column; the digits below, centred on the symbol.
+    QImage img = DesenharCodigoBarras(TipoCode39, QStringLiteral("ab*c"), 40, true, 0);
+    EXPECT_EQ(PixelsPretos(img, 0, 0, 0, 51), 0);
+    int esquerda = img.width(), direita = -1;
+    for (int y = 40; y < 52; ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if (Preto(img, x, y)) {
+                esquerda = std::min(esquerda, x);
+                direita = std::max(direita, x);
+            }
+    ASSERT_GE(direita, 0);
+    EXPECT_NEAR((esquerda + direita) / 2.0, 40.0, 2.5);
+    EXPECT_EQ(PixelsPretos(DesenharCodigoBarras(TipoCode39, QString(), 30, true, 0), 0, 30, 32, 41), 0);
+
+    // Code 128: two columns stay free on the right; the last module is the stop's bar.
+    const int n128 = int(ModulosCode128C(QStringLiteral("0123")).size());
+    img = DesenharCodigoBarras(TipoCode128C, QStringLiteral("123"), 40, true, 0);
+    EXPECT_EQ(PixelsPretos(img, n128, 0, n128, 39), 40);
+    EXPECT_EQ(PixelsPretos(img, n128 + 1, 0, n128 + 1, 39), 0);
+
+    // EAN: guard bars run down the whole picture; data bars stop at the bar
+    // height and the rows below the digits are white. EAN-13's first digit
+    // stands left of the symbol; EAN-8 has none outside its guards.
+    struct Ean {
+        int tipo;
+        const char *valor;
+        std::array<int, 6> guardas;
+        int centro, fim;   // first column of the centre guard and of the end guard
+    };
+    for (const Ean &e : {Ean{TipoEAN13, "590123412345", {11, 13, 57, 59, 103, 105}, 57, 103},
+                         Ean{TipoEAN8, "1234567", {11, 13, 43, 45, 75, 77}, 43, 75}}) {
+        img = DesenharCodigoBarras(e.tipo, QString::fromLatin1(e.valor), 40, true, 0);
+        for (const int x : e.guardas)
+            EXPECT_EQ(PixelsPretos(img, x, 40, x, 51), 12) << e.tipo << " " << x;
+        EXPECT_EQ(PixelsPretos(img, 14, 49, e.centro - 1, 51), 0) << e.tipo;
+        EXPECT_EQ(PixelsPretos(img, 0, 0, 10, 51) > 0, e.tipo == TipoEAN13);
+        EXPECT_GT(PixelsPretos(img, 15, 40, e.centro - 2, 51), 0) << e.tipo;
+        EXPECT_GT(PixelsPretos(img, e.centro + 4, 40, e.fim - 2, 51), 0) << e.tipo;
+    }
+
+    // Interleaved 2 of 5: digits below, or on top over a white first column.
+    EXPECT_GT(PixelsPretos(DesenharCodigoBarras(TipoInterlace25, QStringLiteral("12345"), 40, true, 0), 0, 40, 63, 51), 0);
+    img = DesenharCodigoBarras(TipoInterlace25NumerosTopo, QStringLiteral("12345"), 40, true, 0);
     EXPECT_GT(PixelsPretos(img, 0, 0, 63, 11), 0);
-    for (int y = 0; y < 12; ++y)
-        EXPECT_TRUE(Branco(img, 1, y)) << y;
-
-    DesenharInterlace25(img, 40, QStringLiteral("12345"), false, false, 0);
-    ASSERT_EQ(img.size(), QSize(64, 40));
-    ConferirModulos(img, m, 1, 0, 40);
+    EXPECT_EQ(PixelsPretos(img, 1, 0, 1, 11), 0);
 }
 
 TEST(CodigoBarras, TamanhosExatosPorTipoEAngulo)
@@ -315,6 +287,7 @@ TEST(CodigoBarras, TamanhosExatosPorTipoEAngulo)
         {39, "Ab", {59, 52}, {59, 40}},
         {35, "", {10, 52}, {10, 40}},
         {36, "", {33, 52}, {33, 40}},
+        {39, "", {37, 52}, {37, 40}},
     };
     for (const Caso &c : casos)
         for (const int angulo : {0, 90, 180, 270})

@@ -2,6 +2,7 @@
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace lumeta;
 
@@ -60,18 +61,14 @@ TEST_F(RegrasNumeroTest, LimitesDeDigitosDoFormato)
 TEST_F(RegrasNumeroTest, FormatoForaDaFaixaEIgnoradoEArredondado)
 {
     RegrasNumero r;
-    EXPECT_FALSE(r.DefinirFormato(13));
-    EXPECT_FALSE(r.DefinirFormato(0.5));
-    EXPECT_EQ(r.MaxInteiros(), 6);
-    EXPECT_EQ(r.MaxDecimais(), 6);
-    EXPECT_TRUE(r.DefinirFormato(3.25));
-    EXPECT_EQ(r.MaxInteiros(), 3);
-    EXPECT_EQ(r.MaxDecimais(), 3);
-    EXPECT_TRUE(r.DefinirFormato(12.9));
-    EXPECT_EQ(r.MaxInteiros(), 12);
-    EXPECT_EQ(r.MaxDecimais(), 9);
-    EXPECT_TRUE(r.DefinirFormato(4.0));
-    EXPECT_EQ(r.MaxDecimais(), 0);
+    // Format, accepted, integer and decimal digits after it (6.6 by default).
+    const std::tuple<double, bool, int, int> casos[] = {
+        {13, false, 6, 6}, {0.5, false, 6, 6}, {3.25, true, 3, 3}, {12.9, true, 12, 9}, {4.0, true, 4, 0}};
+    for (const auto &[formato, aceito, inteiros, decimais] : casos) {
+        EXPECT_EQ(r.DefinirFormato(formato), aceito) << formato;
+        EXPECT_EQ(r.MaxInteiros(), inteiros) << formato;
+        EXPECT_EQ(r.MaxDecimais(), decimais) << formato;
+    }
     // Without decimals the separator key does nothing.
     r.Texto = QStringLiteral("12");
     Cursor(r, 1);

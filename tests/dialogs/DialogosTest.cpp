@@ -8,16 +8,14 @@
 #include "output/Visualizacao.h"
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
+#include "dialogs/ApoioTestesDialogos.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
@@ -31,26 +29,7 @@ struct Sessao {
     Sessao() { s.Ui = &ui; }
 };
 
-// Runs `acao` on the modal dialog as soon as it is shown; the command that
-// opened it returns when the action has closed it.
-void QuandoAbrir(std::function<void(QWidget *)> acao)
-{
-    auto *timer = new QTimer;
-    timer->setInterval(5);
-    QObject::connect(timer, &QTimer::timeout, [timer, acao] {
-        QWidget *w = QApplication::activeModalWidget();
-        if (!w || !w->isVisible())
-            return;
-        timer->stop();
-        timer->deleteLater();
-        // Focus moves only inside the active window; a busy machine shows the
-        // dialog before the window system has activated it.
-        w->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(w));
-        acao(w);
-    });
-    timer->start();
-}
+using teste::QuandoAbrir;
 
 template <class T>
 T *filho(QWidget *w, const char *nome)
@@ -312,65 +291,29 @@ TEST(frmEstilo, ButtonsTagWholeWordsFollowTheCaretAndCancelKeepsTheText)
     EXPECT_FALSE(mnuEditarItemEstilo(t.s, nullptr));
 }
 
-namespace {
-
-// Every accessible name under `no`, with the names of its ancestors before it
-// ("Margem Superior:/Margem em milímetros:").
-void coletar(QAccessibleInterface *no, const QString &caminho, QStringList &nomes)
-{
-    for (int k = 0; k < no->childCount(); ++k) {
-        QAccessibleInterface *filhoAcc = no->child(k);
-        if (!filhoAcc)
-            continue;
-        const QString nome = filhoAcc->text(QAccessible::Name);
-        const QString aqui = nome.isEmpty() ? caminho : caminho + QLatin1Char('/') + nome;
-        if (!nome.isEmpty())
-            nomes << aqui.mid(1);
-        coletar(filhoAcc, aqui, nomes);
-    }
-}
-
-void verificarAcessivel(QDialog *d, const QStringList &esperados)
-{
-    d->show();
-    QApplication::processEvents();
-    QStringList nomes;
-    coletar(QAccessible::queryAccessibleInterface(d), QString(), nomes);
-    for (const QString &e : esperados)
-        EXPECT_TRUE(nomes.contains(e)) << d->objectName().toStdString() << ": " << e.toStdString() << " not in "
-                                       << nomes.join(QLatin1String(" | ")).toStdString();
-    // And nothing the user can reach with Tab is nameless.
-    for (QWidget *w : d->findChildren<QWidget *>()) {
-        if (w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy()) {
-            EXPECT_FALSE(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name).isEmpty())
-                << d->objectName().toStdString() << ": " << w->objectName().toStdString();
-        }
-    }
-    d->close();
-}
-
-}  // namespace
-
-TEST(Dialogos, EveryControlIsFoundByItsName)
+TEST(Dialogos, EveryControlIsFoundByItsNameUnderItsTitle)
 {
     teste::ConfigTemporaria cfg;
     frmTextoEmail email{QString()};
-    verificarAcessivel(&email, {"Digite o texto que será exibido no corpo do e-mail:", "Ok", "Cancelar", "Limpar", "Padrão"});
     frmEstilo estilo(QStringLiteral("x"));
-    verificarAcessivel(&estilo, {"Negrito", "Itálico", "Sublinhado", "Riscado", "Texto do item:", "Ok", "Cancelar"});
     frmMargens margens(QStringLiteral("\"0\""), QStringLiteral("\"0\""), QStringLiteral("\"0\""));
+    frmNomeImpressora impressora(QString(), {QStringLiteral("PDF Virtual")});
+    frmQualidadeJPG jpg(92);
     QStringList nomesMargens{"Ok", "Cancelar"};
     for (const char *quadro : {"Margem Superior:", "Margem Esquerda:", "Margem Inferior:"})
         for (const char *campo : {"Margem em milímetros:", "Comando ou Variável:"})
             nomesMargens << QString::fromUtf8(quadro) + QLatin1Char('/') + QString::fromUtf8(campo);
-    verificarAcessivel(&margens, nomesMargens);
-    frmNomeImpressora impressora(QString(), {QStringLiteral("PDF Virtual")});
-    verificarAcessivel(&impressora, {"Impressoras", "Imprerssora:", "Ok", "Cancelar"});
-    frmQualidadeJPG jpg(92);
-    verificarAcessivel(&jpg, {"Digite o percentual (1-100):", "Ok", "Cancelar"});
-    EXPECT_EQ(jpg.windowTitle(), QStringLiteral("Qualidade do JPG no e-mail"));
-    EXPECT_EQ(impressora.windowTitle(), QStringLiteral("Selecione a impressora"));
-    EXPECT_EQ(margens.windowTitle(), QStringLiteral("Margens do papel"));
-    EXPECT_EQ(estilo.windowTitle(), QStringLiteral("Estilo do Item"));
-    EXPECT_EQ(email.windowTitle(), QStringLiteral("Texto do e-mail"));
+    const std::pair<QDialog *, QStringList> casos[] = {
+        {&email, {"Texto do e-mail", "Digite o texto que será exibido no corpo do e-mail:", "Ok", "Cancelar",
+                  "Limpar", "Padrão"}},
+        {&estilo, {"Estilo do Item", "Negrito", "Itálico", "Sublinhado", "Riscado", "Texto do item:", "Ok", "Cancelar"}},
+        {&margens, QStringList{"Margens do papel"} + nomesMargens},
+        {&impressora, {"Selecione a impressora", "Impressoras", "Imprerssora:", "Ok", "Cancelar"}},
+        {&jpg, {"Qualidade do JPG no e-mail", "Digite o percentual (1-100):", "Ok", "Cancelar"}},
+    };
+    for (const auto &[dialogo, nomes] : casos) {
+        EXPECT_EQ(dialogo->windowTitle(), nomes.first());
+        teste::ConferirNomesAcessiveis(dialogo, nomes.mid(1));
+        dialogo->close();
+    }
 }

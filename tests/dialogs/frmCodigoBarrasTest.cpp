@@ -138,13 +138,10 @@ TEST(frmCodigoBarras, CadaControleTemNomeAcessivel)
 {
     teste::ConfigTemporaria cfg;
     frmCodigoBarras d(ValoresCodigoBarras{});
-    d.show();
-    const QStringList nomes = teste::NomesAcessiveis(&d);
+    QStringList esperados{"Tipo:", "Código de Barras:", "Comando ou Variável:",
+                          "Usar a altura da banda (Redimensionar)", "Exemplo", "Caracteres válidos:", "Ok", "Cancelar"};
     for (uint8_t t : TiposDialogoCodigoBarras)
-        EXPECT_TRUE(nomes.contains(LegendaTipoCodigoBarras(t))) << int(t);
-    for (const char *n : {"Tipo:", "Código de Barras:", "Comando ou Variável:",
-                          "Usar a altura da banda (Redimensionar)", "Exemplo", "Caracteres válidos:", "Ok",
-                          "Cancelar"})
-        EXPECT_TRUE(nomes.contains(QString::fromUtf8(n))) << n << " in " << nomes.join(u'|').toStdString();
+        esperados << LegendaTipoCodigoBarras(t);
+    teste::ConferirNomesAcessiveis(&d, esperados);
     EXPECT_EQ(d.btnOk->text(), QStringLiteral("&Ok"));
 }

@@ -72,70 +72,56 @@ TEST(ArquivoLMT, QuebrasDePaginaTextosEBooleanosGravadosComoNaTabela)
     EXPECT_EQ(lido.TextoEmail, d.TextoEmail);
 }
 
-TEST(ArquivoLMT, RevisaoAUsaRegistrosAntigosEPadroes)
+TEST(ArquivoLMT, RevisoesAEBUsamRegistrosAntigosEPadroes)
 {
-    Bytes e;
-    e.cab("a").i16(2);
-    e.i32(16).i32(20).i32(0).i16(2).i16(1).i32(2).i32(1);
-    itemAntigo(e, "Nome", 100, 0);
-    itemAntigo(e, "logo.bmp", 50, 1);
-    e.i32(36).i32(-14).i32(-3).i16(1).i16(1).i32(1).i32(1);
-    itemAntigo(e, "X", 30, 2);
-    e.i16(-1).i16(0).i16(1);  // Paisagem, Imprimir, Visivel (any non-zero is true)
-    LayoutDocumento d;
-    const LeituraLMT r = LerLMT(e.b, d);
+    Bytes a;
+    a.cab("a").i16(2);
+    a.i32(16).i32(20).i32(0).i16(2).i16(1).i32(2).i32(1);
+    itemAntigo(a, "Nome", 100, 0);
+    itemAntigo(a, "logo.bmp", 50, 1);
+    a.i32(36).i32(-14).i32(-3).i16(1).i16(1).i32(1).i32(1);
+    itemAntigo(a, "X", 30, 2);
+    a.i16(-1).i16(0).i16(1);  // Paisagem, Imprimir, Visivel (any non-zero is true)
+    Bytes b;
+    b.cab("b").i16(1).i32(16).i32(18).i32(0).i16(1).i16(1).i32(1).i32(1);
+    itemAntigo(b, "foto.jpg", 64, 1);
+    b.i16(0).i16(-1).i16(0).str("HP LaserJet").i16(-1);
+
+    LayoutDocumento da, db;
+    const LeituraLMT r = LerLMT(a.b, da);
     ASSERT_EQ(r.resultado, ResultadoLeitura::Ok);
     EXPECT_EQ(r.revisao, 'a');
-    ASSERT_EQ(d.NumBandas(), 2);
-    EXPECT_EQ(d.banda(1).Altura, 20);
-    EXPECT_EQ(d.banda(2).Altura, -14);
-    EXPECT_EQ(d.banda(2).Deslocamento, -3);
-    EXPECT_EQ(d.banda(1).Comentario, QString());
-    const Item &nome = d.banda(1).Itens[0];
+    ASSERT_EQ(LerLMT(b.b, db).resultado, ResultadoLeitura::Ok);
+    ASSERT_EQ(da.NumBandas(), 2);
+    EXPECT_EQ(QList<int>({da.banda(1).Altura, da.banda(2).Altura, da.banda(2).Deslocamento}), QList<int>({20, -14, -3}));
+    const Item &nome = da.banda(1).Itens[0];
     EXPECT_EQ(nome.Texto, QStringLiteral("Nome"));
     EXPECT_EQ(nome.Fonte.Nome, QStringLiteral("Courier New"));
     EXPECT_EQ(nome.Fonte.Tamanho, 12);
     EXPECT_TRUE(nome.Fonte.Italico);
     EXPECT_EQ(nome.Atributos, QStringLiteral("1000100010"));
-    EXPECT_EQ(nome.CorTexto, 4);
-    EXPECT_EQ(nome.CorFundo, 99);
-    EXPECT_EQ(nome.CorLinha, 0);
-    EXPECT_EQ(nome.Espessura, 1);
-    EXPECT_EQ(nome.Tipo, 0);
-    EXPECT_EQ(d.banda(1).Itens[1].Texto, QStringLiteral("\"logo.bmp\""));
-    EXPECT_EQ(d.banda(2).Itens[0].Tipo, TipoComando);
-    EXPECT_EQ(d.banda(2).Itens[0].Texto, QStringLiteral("X"));
-    EXPECT_TRUE(d.Paisagem);
-    EXPECT_FALSE(d.Imprimir);
-    EXPECT_TRUE(d.Visivel);
-    EXPECT_EQ(d.NomeImpressora, QString());
-    EXPECT_FALSE(d.QuebraPaginaFinal);
-    EXPECT_EQ(d.QualidadeJPG, 90);
-    EXPECT_EQ(d.TipoEmail, 1);
-    EXPECT_EQ(d.MargemEsquerda, QStringLiteral("\"0\""));
-    EXPECT_EQ(d.MargemSuperior, QStringLiteral("\"0\""));
-    EXPECT_EQ(d.MargemInferior, QStringLiteral("\"0\""));
-    EXPECT_TRUE(d.Quebras.isEmpty());
-    EXPECT_EQ(d.BandaCabecalho, 0);
-    EXPECT_EQ(d.BandaRodape, 0);
-}
-
-TEST(ArquivoLMT, RevisaoBTemImpressoraEQuebraFinal)
-{
-    Bytes e;
-    e.cab("b").i16(1).i32(16).i32(18).i32(0).i16(1).i16(1).i32(1).i32(1);
-    itemAntigo(e, "foto.jpg", 64, 1);
-    e.i16(0).i16(-1).i16(0).str("HP LaserJet").i16(-1);
-    LayoutDocumento d;
-    ASSERT_EQ(LerLMT(e.b, d).resultado, ResultadoLeitura::Ok);
-    EXPECT_EQ(d.NomeImpressora, QStringLiteral("HP LaserJet"));
-    EXPECT_TRUE(d.QuebraPaginaFinal);
-    EXPECT_TRUE(d.Imprimir);
-    EXPECT_EQ(d.QualidadeJPG, 90);
-    EXPECT_EQ(d.TipoEmail, 1);
-    EXPECT_EQ(d.banda(1).Itens[0].Texto, QStringLiteral("\"foto.jpg\""));
-    EXPECT_EQ(d.banda(1).Itens[0].Espessura, 1);
-    EXPECT_EQ(d.banda(1).Comentario, QString());
+    EXPECT_EQ(QList<int>({nome.CorTexto, nome.CorFundo, nome.CorLinha, nome.Tipo}), QList<int>({4, 99, 0, 0}));
+    // Picture texts are quoted on reading.
+    EXPECT_EQ(da.banda(1).Itens[1].Texto, QStringLiteral("\"logo.bmp\""));
+    EXPECT_EQ(db.banda(1).Itens[0].Texto, QStringLiteral("\"foto.jpg\""));
+    EXPECT_EQ(da.banda(2).Itens[0].Tipo, TipoComando);
+    EXPECT_EQ(da.banda(2).Itens[0].Texto, QStringLiteral("X"));
+    EXPECT_TRUE(da.Paisagem && !da.Imprimir && da.Visivel);
+    EXPECT_EQ(da.NomeImpressora, QString());
+    EXPECT_FALSE(da.QuebraPaginaFinal);
+    // Revision b added the printer name and the final page break.
+    EXPECT_EQ(db.NomeImpressora, QStringLiteral("HP LaserJet"));
+    EXPECT_TRUE(db.QuebraPaginaFinal && db.Imprimir);
+    for (const LayoutDocumento *d : {&da, &db}) {
+        EXPECT_EQ(d->QualidadeJPG, 90);
+        EXPECT_EQ(d->TipoEmail, 1);
+        for (const QString &m : {d->MargemEsquerda, d->MargemSuperior, d->MargemInferior})
+            EXPECT_EQ(m, QStringLiteral("\"0\""));
+        EXPECT_TRUE(d->Quebras.isEmpty());
+        EXPECT_EQ(d->BandaCabecalho + d->BandaRodape, 0);
+        EXPECT_EQ(d->banda(1).Comentario, QString());
+        EXPECT_EQ(d->banda(1).Itens[0].Espessura, 1);
+    }
 }
 
 // Revisions d..t, built field by field as each revision added them.

@@ -11,6 +11,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <tuple>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
@@ -68,29 +69,24 @@ TEST(Cli, ErrosDaoAMensagemDoEditorECodigoDeSaida)
     QTemporaryDir dir;
     const QString ruim = dir.filePath(QStringLiteral("ruim.lmt"));
     teste::GravarArquivoTeste(ruim, "LumetaEdit 1.0(z)               ");
-    Execucao r = Cli({QStringLiteral("texto"), ruim});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(r.saida.isEmpty());
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Formato inválido!")));
-
-    r = Cli({QStringLiteral("texto"), dir.filePath(QStringLiteral("nao-existe.lmt"))});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
-
-    r = Cli({QStringLiteral("novo"), dir.filePath(QStringLiteral("sem/pasta.lmt"))});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")));
-
-    r = Cli({QStringLiteral("texto")});
-    EXPECT_EQ(r.codigo, 2);
-    // An option is never taken for a file name.
-    r = Cli({QStringLiteral("novo"), QStringLiteral("--help")}, dir.path());
-    EXPECT_EQ(r.codigo, 2);
-    EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(QStringLiteral("Uso: lumetaedit-cli novo")));
+    // Arguments, exit status, start of the message.
+    const std::tuple<QStringList, int, QString> casos[] = {
+        {{"texto", ruim}, 1, "Formato inválido!"},
+        {{"texto", dir.filePath(QStringLiteral("nao-existe.lmt"))}, 1, "Ocorreu um erro ao abrir o arquivo '"},
+        {{"novo", dir.filePath(QStringLiteral("sem/pasta.lmt"))}, 1, "Ocorreu um erro ao gravar o arquivo '"},
+        {{"texto"}, 2, "Uso: lumetaedit-cli texto"},
+        // An option is never taken for a file name.
+        {{"novo", "--help"}, 2, "Uso: lumetaedit-cli novo"},
+        {{"inexistente"}, 2, "Comando desconhecido: inexistente"},
+    };
+    for (const auto &[args, codigo, inicio] : casos) {
+        const Execucao r = Cli(args, dir.path());
+        EXPECT_EQ(r.codigo, codigo) << args.join(u' ').toStdString();
+        EXPECT_TRUE(r.saida.isEmpty());
+        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << r.erros.toStdString();
+    }
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("--help"))));
-    r = Cli({QStringLiteral("inexistente")});
-    EXPECT_EQ(r.codigo, 2);
-    r = Cli({QStringLiteral("ajuda")});
+    const Execucao r = Cli({QStringLiteral("ajuda")});
     EXPECT_EQ(r.codigo, 0);
     for (const char *cmd : {"novo SAIDA.lmt", "texto ARQUIVO.lmt", "comandos ARQUIVO.lmt"})
         EXPECT_TRUE(r.saida.contains(cmd)) << cmd;

@@ -144,6 +144,5 @@ TEST(PainelJanela, ControlesAcessiveisPeloNome)
         esperados << b->toolTip();
     for (const char *nome : {"picCores", "picCoresLinhas", "PicCorItem", "picCorLinha"})
         esperados << t.janela.findChild<QWidget *>(QLatin1String(nome))->toolTip();
-    // Caption-less buttons carry their tooltip as the description.
-    teste::ConferirNomesAcessiveis(&t.janela, esperados, false);
+    teste::ConferirNomesAcessiveis(&t.janela, esperados);
 }

@@ -92,8 +92,9 @@ TEST(CliCodigoBarras, RecusasComMensagemECodigo)
     for (const Caso &c : casos) {
         const Execucao e = Executar(c.args);
         EXPECT_EQ(e.codigo, c.codigo) << c.args.join(u' ').left(40).toStdString();
-        if (!c.erros.isEmpty())
+        if (!c.erros.isEmpty()) {
             EXPECT_EQ(e.erros, c.erros);
+        }
     }
     EXPECT_FALSE(QFile::exists(arquivo));
 }

@@ -63,12 +63,12 @@ inline void NomesAcessiveis(QAccessibleInterface *i, QStringList &nomes, const Q
         return;
     const QString nome = i->text(QAccessible::Name);
     const QString aqui = nome.isEmpty() ? caminho : caminho.isEmpty() ? nome : caminho + u'/' + nome;
-    nomes << nome << aqui << i->text(QAccessible::Description);
+    nomes << nome << aqui;
     for (int k = 0; k < i->childCount(); ++k)
         NomesAcessiveis(i->child(k), nomes, aqui, profundidade + 1);
 }
 
-// The window shows every expected name (or description), and unless told
+// The window shows every expected name, and unless told
 // otherwise nothing the user reaches with Tab is nameless.
 inline void ConferirNomesAcessiveis(QWidget *janela, const QStringList &esperados, bool todosComNome = true)
 {

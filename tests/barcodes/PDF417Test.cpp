@@ -78,7 +78,7 @@ TEST(PDF417, MatrizLinhaALinhaComBitMaisSignificativoAEsquerda)
     EXPECT_EQ(numBytes, 0);
 }
 
-TEST(PDF417, DesenhoDaMatrizTresPixelsPorModuloEGiro)
+TEST(PDF417, DesenhoDaMatrizTresPixelsPorModulo)
 {
     // 17 modules: 3 bytes per row; 30 bytes: 10 rows, 30 pixels high. Row r
     // sets module r, module 16 and a padding bit (module 17) that must be
@@ -119,27 +119,7 @@ TEST(PDF417, DesenhoDaMatrizTresPixelsPorModuloEGiro)
         }
     EXPECT_EQ(pretos, 10 * 2 * 3);
 
-    for (const int angulo : {90, 180, 270}) {
-        QImage girada;
-        DesenharPDF417(girada, QStringLiteral("x"), angulo, falso);
-        ASSERT_EQ(girada.size(), angulo == 180 ? QSize(17, 30) : QSize(30, 17)) << angulo;
-        for (int y = 0; y < 30; ++y)
-            for (int x = 0; x < 17; ++x)
-                EXPECT_EQ(girada.pixel(RotacionarPonto(x, y, 17, 30, angulo)), img.pixel(x, y)) << angulo;
-    }
-
-    // 16 modules: 2 bytes per row, so the same 30 bytes make 15 rows.
-    const FuncaoGetPDF417 largura16 = [&](const QByteArray &, QByteArray &m, int &n, int &w) {
-        m = QByteArray(30, '\xFF');
-        n = 30;
-        w = 16;
-        return 1;
-    };
-    DesenharPDF417(img, QStringLiteral("x"), 0, largura16);
-    ASSERT_EQ(img.size(), QSize(16, 45));
-    for (int y = 0; y < 45; ++y)
-        for (int x = 0; x < 16; ++x)
-            ASSERT_TRUE(Preto(img, x, y));
+    // Turned symbols and other row widths: the real symbols read back below.
 }
 
 TEST(PDF417, VazioOuFalhaDeixaFigura8x8EmBranco)

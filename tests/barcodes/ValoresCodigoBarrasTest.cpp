@@ -37,7 +37,6 @@ TEST(ValoresCodigoBarras, AmostrasDaPrevia)
     EXPECT_EQ(CaracteresValidos(TipoPDF417),
               QStringLiteral("0 até 9\nA até Z\n! \"#$%&'()*+,-./:\n;<=>?@[\\]^_`{|}~"));
     EXPECT_EQ(CaracteresValidos(TipoInterlace25SemNumeros), QStringLiteral("0 até 9"));
-    EXPECT_EQ(AmostraCodigoBarras(TipoEAN8), QStringLiteral("1234567"));
     EXPECT_EQ(AmostraCodigoBarras(TipoCode128B), QStringLiteral("123.456/Abc"));
     // Every barcode option draws a symbol; 40 bar rows and the digits below.
     for (uint8_t t : TiposDialogoCodigoBarras) {

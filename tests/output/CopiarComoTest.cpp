@@ -93,7 +93,6 @@ TEST(QuebrarLinhasCobol, LimitesAspasCaudaELinhasIncompletas)
     const QString semAspas = em(11) + QStringLiteral("MOVE WS-CAMPO-COM-NOME-BEM-COMPRIDO-DEMAIS TO WS-OUTRO-CAMPO-MUITO-LONGO");
     ASSERT_GT(semAspas.size(), 72);
     EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, true), semAspas + kCRLF);
-    EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, false), semAspas + kCRLF);
 
     // Upper-case MOVE and TO are found; several cuts for a long literal.
     const QString longa = em(11) + QStringLiteral("MOVE \"") + QString(150, QLatin1Char('x')) + QStringLiteral("\" TO WS-V");
@@ -141,16 +140,11 @@ TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
     b.Itens = {item(TipoTexto, QStringLiteral("Nome"), 0, 100),
                item(TipoComando, QStringLiteral("WS-NOME"), 100, 100),
                item(TipoEAN13, QStringLiteral("\"789\""), 200, 100),
-               item(TipoCode128B, QStringLiteral("WS-COD"), 300, 100),
-               item(TipoPDF417, QStringLiteral("\"PDF\""), 400, 100),
                item(TipoFigura, QStringLiteral("\"logo.bmp\""), 500, 100),
-               item(TipoFigura, QString(), 600, 100),
                item(TipoBarraGrafico, QStringLiteral("\"35\""), 700, 100),
-               item(TipoBarraGrafico, QStringLiteral("WS-BARRA"), 800, 5),
-               item(TipoTexto, QStringLiteral("estreito"), 805, 4),
                item(99, QStringLiteral("tipo desconhecido"), 809, 50)};
-    b.Itens[7].CorTexto = 3;
-    b.Itens[7].CorFundo = 5;
+    b.Itens[4].CorTexto = 3;
+    b.Itens[4].CorFundo = 5;
     doc.Bandas.append(b);
 
     LinguagemDef l;
@@ -167,29 +161,17 @@ TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
                       QStringLiteral("T |00|99|00002|00096|0000100010|bare=Nome|q='Nome'|d=\"Nome\""),
                       QStringLiteral("T |00|99|00102|00096|0000100010|bare=§t|q=WS-NOME|d=WS-NOME"),
                       QStringLiteral("Ba|00|99|00202|00096|0000100010|bare=789|q='789'|d=\"789\""),
-                      QStringLiteral("Bi|00|99|00302|00096|0000100010|bare=§t|q=WS-COD|d=WS-COD"),
-                      QStringLiteral("B0|00|99|00402|00096|0000100010|bare=PDF|q='PDF'|d=\"PDF\""),
                       QStringLiteral("G |00|99|00502|00096|0000100010|bare=logo.bmp|q='logo.bmp'|d=\"logo.bmp\""),
                       QStringLiteral("LG|03|05|00700|00100|0000100010|bare=35|q='35'|d=\"35\""),
-                      QStringLiteral("LG|00|99|00800|00005|0000100010|bare=§t|q=WS-BARRA|d=WS-BARRA"),
                       QStringLiteral("T |00|99|00811|00046|0000100010|bare=tipo desconhecido|q='tipo desconhecido'"
                                      "|d=\"tipo desconhecido\""),
                       QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S"), QString()}));
 
-    // Templates without placeholders are copied as they stand, one per line.
-    LinguagemDef fixo;
-    for (QString *m : {&fixo.ComandoF, &fixo.ComandoL, &fixo.ComandoT, &fixo.ComandoRH, &fixo.ComandosSimples})
-        *m = QStringLiteral("X");
-    SessaoEdicao novo;
-    novo.Documento.banda(1).Itens[0].CorFundo = 7;
-    EXPECT_EQ(GerarCopiarComo(novo.Documento, fixo),
-              linhas({QStringLiteral("X"), QString(), QStringLiteral("X"), QStringLiteral("X"), QStringLiteral("X"),
-                      QStringLiteral("X"), QStringLiteral("X"), QString()}));
-
     // Line feeds typed in a plain editor come out as CR LF.
-    fixo.ComandosSimples = QStringLiteral("a\nb");
-    fixo.ComentarioInicial = QStringLiteral("c\r\nd\n");
-    EXPECT_TRUE(GerarCopiarComo(novo.Documento, fixo)
+    LinguagemDef lf;
+    lf.ComandosSimples = QStringLiteral("a\nb");
+    lf.ComentarioInicial = QStringLiteral("c\r\nd\n");
+    EXPECT_TRUE(GerarCopiarComo(SessaoEdicao().Documento, lf)
                     .startsWith(linhas({QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("a"), QStringLiteral("b")})));
 }
 
@@ -478,8 +460,7 @@ TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
     EXPECT_TRUE(r.saida.isEmpty());
     const QString nova = QStringLiteral("nova"), linguagem = QStringLiteral("linguagem");
     for (const QStringList &errado : {QStringList{cc, ct}, QStringList{cc, ct, lmt, QStringLiteral("--string"), QStringLiteral("--continuacao")},
-                                      QStringList{cc, "a", "b", "c", "d"}, QStringList{linguagem, nova},
-                                      QStringList{linguagem, QStringLiteral("apagar"), "x"}})
+                                      QStringList{linguagem, nova}})
         EXPECT_EQ(rodar(errado).codigo, 2) << errado.join(u' ').toStdString();
 
     // A new language: the name cleaned as the dialog does, the defaults written.

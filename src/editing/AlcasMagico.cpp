@@ -223,7 +223,8 @@ void OcultarMagico(SessaoEdicao &s)
 void MoverMagico(SessaoEdicao &s, int x, int y, bool livre)
 {
     const LayoutDocumento &doc = s.Documento;
-    if (!s.Config.MagicItem || s.Faixa.visivel || !livre || s.Alca.Ativo() || doc.NumBandas() < 1) {
+    if (!s.Config.MagicItem || s.Faixa.visivel || !livre || s.Alca.Ativo() || doc.NumBandas() < 1
+        || AlcaEm(s, QPoint(x, y)) >= 0) {
         OcultarMagico(s);
         return;
     }
@@ -273,6 +274,60 @@ void CliqueMagico(SessaoEdicao &s)
             s.Ganchos.SelecionarBanda();
     }
     s.ConcluirEdicao();
+}
+
+ReacaoMouse PressionarCanvas(SessaoEdicao &s, QPointF ponto, Qt::MouseButton botao, Qt::KeyboardModifiers teclas)
+{
+    if (botao != Qt::LeftButton && botao != Qt::RightButton)
+        return ReacaoMouse::Nada;
+    const bool esquerdo = botao == Qt::LeftButton;
+    const QPoint p = ponto.toPoint();
+    // A handle hides whatever lies under it, also the free part of a
+    // narrower neighbour band that would otherwise take the click; the range
+    // stays, as the drag's release applies to all of it.
+    const int alca = AlcaEm(s, p);
+    if (alca >= 0 && !esquerdo) {
+        OcultarMagico(s);
+        return ReacaoMouse::MenuEditar;
+    }
+    if (alca >= 0) {
+        // The panel's pending edits go first, as for any click on the canvas.
+        if (s.Ganchos.ConfirmarPainel && !s.Ganchos.ConfirmarPainel())
+            return ReacaoMouse::Nada;
+        if (IniciarArrasteAlca(s, alca, ponto))
+            return ReacaoMouse::Nada;
+    }
+    if (s.Magico.visivel && s.Magico.retangulo.contains(p)) {
+        if (esquerdo) {
+            CliqueMagico(s);
+            return ReacaoMouse::Nada;
+        }
+        OcultarMagico(s);
+    }
+    const Qt::KeyboardModifiers todas = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return MouseDownCanvas(s, p.x(), p.y(), esquerdo ? BotaoMouse::Esquerdo : BotaoMouse::Direito,
+                           (teclas & todas) == Qt::ShiftModifier);
+}
+
+void MoverCanvas(SessaoEdicao &s, QPointF ponto, Qt::MouseButtons botoes, Qt::KeyboardModifiers teclas)
+{
+    const QPoint p = ponto.toPoint();
+    if (s.Alca.Ativo()) {
+        if (botoes & Qt::LeftButton)
+            MoverArrasteAlca(s, ponto);
+        return;
+    }
+    if (botoes == Qt::LeftButton && (teclas & ~Qt::KeypadModifier) == Qt::NoModifier && s.ItemSelecionado > 0) {
+        ArrastarSelecao(s, p.x(), p.y());
+        return;
+    }
+    MoverMagico(s, p.x(), p.y(), botoes == Qt::NoButton && teclas == Qt::NoModifier);
+}
+
+void SoltarCanvas(SessaoEdicao &s, Qt::MouseButton botao)
+{
+    if (botao == Qt::LeftButton)
+        SoltarArrasteAlca(s);
 }
 
 }  // namespace lumeta

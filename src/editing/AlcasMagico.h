@@ -4,6 +4,7 @@
 // changes once, when the button is released. The magic item is a ghost over
 // free space that one click turns into an item, or a band holding one.
 
+#include "editing/Selecao.h"
 #include "editing/SessaoEdicao.h"
 
 #include <QRect>
@@ -37,5 +38,12 @@ void MoverMagico(SessaoEdicao &s, int x, int y, bool livre);
 void OcultarMagico(SessaoEdicao &s);
 // Left click on the ghost: the item or the band it promises.
 void CliqueMagico(SessaoEdicao &s);
+
+// The canvas's mouse events as the window receives them, at canvas points.
+// The handles lie in front of the ghost and of whatever band they overlap,
+// the ghost in front of the bands.
+ReacaoMouse PressionarCanvas(SessaoEdicao &s, QPointF ponto, Qt::MouseButton botao, Qt::KeyboardModifiers teclas);
+void MoverCanvas(SessaoEdicao &s, QPointF ponto, Qt::MouseButtons botoes, Qt::KeyboardModifiers teclas);
+void SoltarCanvas(SessaoEdicao &s, Qt::MouseButton botao);
 
 }  // namespace lumeta

@@ -82,6 +82,19 @@ void PintarMarcasEdicao(QPainter &p, const SessaoEdicao &s, const QRect &area)
     if (!faixa.isEmpty())
         moldura(p, faixa, QPen(CorSelecao, 1, Qt::DashLine));
 
+    // The handles lie in front of the ghost, as they take the click there.
+    if (s.Magico.visivel) {
+        const QRect m = s.Magico.retangulo;
+        p.fillRect(m, QColor(198, 222, 255, 170));
+        moldura(p, m, QPen(QColor(60, 110, 200), 1, Qt::DashLine));
+        p.setFont(fonteLegenda(m));
+        p.setPen(QColor(20, 50, 120));
+        const QRect legenda = retanguloLegenda(p.fontMetrics(), s.Magico);
+        if (legenda != m)
+            p.fillRect(legenda, QColor(255, 255, 225));
+        p.drawText(legenda, Qt::AlignCenter | Qt::TextSingleLine, s.Magico.legenda);
+    }
+
     if (s.Alca.Ativo()) {
         // Only the rubber frame moves while a handle is dragged.
         moldura(p, s.Alca.atual, QPen(CorSelecao, 1, Qt::DotLine));
@@ -97,17 +110,6 @@ void PintarMarcasEdicao(QPainter &p, const SessaoEdicao &s, const QRect &area)
         }
     }
 
-    if (s.Magico.visivel) {
-        const QRect m = s.Magico.retangulo;
-        p.fillRect(m, QColor(198, 222, 255, 170));
-        moldura(p, m, QPen(QColor(60, 110, 200), 1, Qt::DashLine));
-        p.setFont(fonteLegenda(m));
-        p.setPen(QColor(20, 50, 120));
-        const QRect legenda = retanguloLegenda(p.fontMetrics(), s.Magico);
-        if (legenda != m)
-            p.fillRect(legenda, QColor(255, 255, 225));
-        p.drawText(legenda, Qt::AlignCenter | Qt::TextSingleLine, s.Magico.legenda);
-    }
     p.restore();
 }
 

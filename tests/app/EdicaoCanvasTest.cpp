@@ -2,6 +2,7 @@
 // session-level cases prove the rules, these that the events reach them.
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/frmLumetaEdit.h"
+#include "editing/AlcasMagico.h"
 #include "editing/DesenhoSelecao.h"
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
@@ -37,6 +38,30 @@ struct Editor {
         QApplication::processEvents();
     }
     const Item &item(int b, int i) const { return s.Documento.banda(b).Itens[i - 1]; }
+    const Banda &banda(int b) const { return s.Documento.banda(b); }
+    void acrescentarItem(int b)
+    {
+        s.AddItem(b, false, 0);
+        s.Documento.ReposicionarItem(b);
+        s.ConcluirEdicao();
+    }
+    QList<int32_t> larguras(int b) const
+    {
+        QList<int32_t> r;
+        for (const Item &it : banda(b).Itens)
+            r << it.Largura;
+        return r;
+    }
+    // A press on handle `alca` of the selected item, a move by (16, 8) and
+    // the release, as the user's mouse does them.
+    void arrastarAlca(int alca)
+    {
+        const QPoint centro = RetanguloAlca(RetanguloSelecao(s), alca).center();
+        QTest::mouseMove(pagina, centro);
+        QTest::mousePress(pagina, Qt::LeftButton, {}, centro);
+        QTest::mouseMove(pagina, centro + QPoint(16, 8));
+        QTest::mouseRelease(pagina, Qt::LeftButton, {}, centro + QPoint(16, 8));
+    }
     // The middle of item i of band b, in the canvas widget.
     QPoint centro(int b, int i) const
     {
@@ -47,7 +72,7 @@ struct Editor {
 
 }  // namespace
 
-TEST(EdicaoCanvas, AlcaArrastadaMudaALarguraEmPassosDe8)
+TEST(EdicaoCanvas, AlcasPintadasEFantasmaCriaItem)
 {
     Editor e(1);
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
@@ -57,27 +82,13 @@ TEST(EdicaoCanvas, AlcaArrastadaMudaALarguraEmPassosDe8)
     EXPECT_EQ(antes.pixelColor(8 + 64 - 3, 16 + 9), CorSelecao);  // the handle's border
     EXPECT_EQ(antes.pixelColor(8 + 64, 16 + 9), QColor(Qt::white));  // its hollow middle
 
-    const QString texto = e.s.TextoResultado;
-    const QPoint alca(8 + 64, 16 + 9);
-    QTest::mousePress(e.pagina, Qt::LeftButton, {}, alca);
-    QTest::mouseMove(e.pagina, alca + QPoint(7, 0));   // under one step: nothing
-    EXPECT_EQ(e.s.Alca.atual.width(), 64);
-    QTest::mouseMove(e.pagina, alca + QPoint(23, 3));  // two steps, the height stays
-    EXPECT_EQ(e.s.Alca.atual, QRect(8, 16, 80, 18));
-    // Only the rubber frame moves while the button is held.
-    EXPECT_EQ(e.item(1, 1).Largura, 64);
-    EXPECT_EQ(e.s.TextoResultado, texto);
-    QTest::mouseRelease(e.pagina, Qt::LeftButton, {}, alca + QPoint(23, 3));
-    EXPECT_EQ(e.item(1, 1).Largura, 80);
-    EXPECT_NE(e.s.TextoResultado, texto);
-
-    // Right of the band's last item (which now ends at 144): the magic item's
+    // Right of the band's last item (which ends at 128): the magic item's
     // ghost follows the pointer and a click adds an item of its width.
     ASSERT_TRUE(e.s.Config.MagicItem);
-    QTest::mouseMove(e.pagina, QPoint(166, 24));
+    QTest::mouseMove(e.pagina, QPoint(150, 24));
     ASSERT_TRUE(e.s.Magico.visivel);
-    EXPECT_EQ(e.s.Magico.retangulo, QRect(152, 16, 24, 18));
-    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(166, 24));
+    EXPECT_EQ(e.s.Magico.retangulo, QRect(136, 16, 24, 18));
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(150, 24));
     ASSERT_EQ(e.s.Documento.banda(1).NumItens(), 3);
     EXPECT_EQ(e.item(1, 3).Largura, 24);
 }
@@ -101,4 +112,55 @@ TEST(EdicaoCanvas, ShiftCliqueEShiftDireitaNaFaixaEDeleteSemItemRemoveABanda)
     EXPECT_EQ(e.s.BandaSelecionada, 1);
     QTest::keyClick(&e.janela, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(e.s.Documento.NumBandas(), 2);
+}
+
+TEST(EdicaoCanvas, AlcasSobreBandasVizinhasMaisEstreitasArrastamSemCriar)
+{
+    // Item (2, 3) sticks out past bands 1 and 3, so its top and bottom
+    // handles lie over their free part, where the magic item is offered.
+    // Each row: the handle, then the change of width, height and top.
+    const std::array<std::array<int, 4>, 8> casos{{
+        {0, -16, -8, 8}, {1, -16, 0, 0}, {2, -16, 8, 0}, {3, 0, 0, 8},
+        {4, 0, 8, 0}, {5, 16, -8, 8}, {6, 16, 0, 0}, {7, 16, 8, 0},
+    }};
+    Editor e(3);
+    e.acrescentarItem(2);
+    for (const auto &[alca, dl, da, dt] : casos) {
+        QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(2, 3));
+        ASSERT_EQ(e.s.ItemSelecionado, 3);
+        const int32_t topo = e.banda(2).Topo, altura = e.banda(2).Altura;
+        e.arrastarAlca(alca);
+        EXPECT_EQ(e.larguras(2), (QList<int32_t>{64, 64, 64 + dl})) << alca;
+        EXPECT_EQ(std::pair(e.banda(2).Altura, e.banda(2).Topo), std::pair(altura + da, topo + dt)) << alca;
+        EXPECT_EQ(std::tuple(e.banda(1).NumItens(), e.banda(3).NumItens(), e.s.Documento.NumBandas()),
+                  std::tuple(2, 2, 3)) << alca;
+        EXPECT_EQ(std::pair(e.s.BandaSelecionada, e.s.ItemSelecionado), std::pair(2, 3)) << alca;
+        QTest::keyClick(&e.janela, Qt::Key_Z, Qt::ControlModifier);
+    }
+}
+
+TEST(EdicaoCanvas, ArrasteDeAlcaComFaixaMudaTodosOsItensEBandasDela)
+{
+    // A range over bands 2 and 3, then one inside band 2; the selected item
+    // (2, 2) is dragged by its bottom-right handle.
+    struct Caso {
+        int bandaFim, itemFim;
+        QList<int32_t> banda2, banda3;
+        int32_t altura3;
+    };
+    for (const Caso &c : {Caso{3, 1, {80, 80, 80}, {80, 80}, 26}, Caso{2, 3, {64, 80, 80}, {64, 64}, 18}}) {
+        Editor e(3);
+        e.acrescentarItem(2);
+        QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(2, 2));
+        QTest::mouseClick(e.pagina, Qt::LeftButton, Qt::ShiftModifier, e.centro(c.bandaFim, c.itemFim));
+        ASSERT_TRUE(e.s.Faixa.visivel);
+        const int32_t altura = e.banda(2).Altura;
+        e.arrastarAlca(7);
+        EXPECT_TRUE(e.s.Faixa.visivel);
+        EXPECT_EQ(e.larguras(2), c.banda2);
+        EXPECT_EQ(e.larguras(3), c.banda3);
+        EXPECT_EQ(e.item(2, 3).Esquerda, c.banda2[0] + c.banda2[1]);
+        EXPECT_EQ((QList<int32_t>{e.banda(1).Altura, e.banda(2).Altura, e.banda(3).Altura}),
+                  (QList<int32_t>{altura, altura + 8, c.altura3}));
+    }
 }

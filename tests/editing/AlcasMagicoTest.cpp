@@ -18,14 +18,16 @@ protected:
         Montar({{64, 64}, {64, 32}, {64}});
         Selecionar(2, 1);
     }
-    // One whole drag of handle `alca` from its own centre by (dx, dy);
-    // returns the rubber frame before the release.
+    // One whole drag of handle `alca` from its own centre by (dx, dy), as
+    // the canvas's mouse events; returns the rubber frame before the release.
     QRect Arrastar(int alca, double dx, double dy)
     {
         const QPointF inicio = QRectF(RetanguloAlca(RetanguloSelecao(s), alca)).center();
-        EXPECT_TRUE(IniciarArrasteAlca(s, alca, inicio));
-        const QRect r = MoverArrasteAlca(s, inicio + QPointF(dx, dy));
-        SoltarArrasteAlca(s);
+        PressionarCanvas(s, inicio, Qt::LeftButton, {});
+        EXPECT_EQ(s.Alca.indice, alca);
+        MoverCanvas(s, inicio + QPointF(dx, dy), Qt::LeftButton, {});
+        const QRect r = s.Alca.atual;
+        SoltarCanvas(s, Qt::LeftButton);
         return r;
     }
     std::tuple<int32_t, int32_t, int32_t> Banda2() const { return {B(2).Topo, B(2).Altura, B(2).Deslocamento}; }
@@ -126,15 +128,25 @@ TEST_F(Alcas, LimitesDoCanvasArredondadosAGrade)
 
 TEST_F(Alcas, FaixaRecebeALarguraEAAlturaDoArraste)
 {
-    // How a range shares a size is the keyboard test's; a drag goes the same way.
-    Tres();
-    CliqueEShiftClique(10, 20, 80, 40);
-    ASSERT_TRUE(s.Faixa.VariasBandas());
-    Arrastar(6, 16, 0);
-    EXPECT_EQ(Larguras(2), (L{80, 80}));
-    EXPECT_EQ(Larguras(3), L{64});
-    Arrastar(4, 0, 8);
-    EXPECT_EQ(Alturas(), (L{26, 26, 18}));
+    // The press on a handle keeps the range; the release sizes every item of
+    // its bands (or of its span inside one band) and, over several bands,
+    // every band's height.
+    struct Caso {
+        QPoint ate;
+        QList<L> larguras;
+        L alturas;
+    };
+    for (const Caso &c : {Caso{{80, 40}, {{80, 80}, {80, 80}, {64}}, {26, 26, 18}},
+                          Caso{{80, 20}, {{80, 80}, {64, 32}, {64}}, {26, 18, 18}}}) {
+        Tres();
+        CliqueEShiftClique(10, 20, c.ate.x(), c.ate.y());
+        ASSERT_TRUE(s.Faixa.visivel);
+        Arrastar(7, 16, 8);
+        EXPECT_TRUE(s.Faixa.visivel);
+        EXPECT_EQ((QList<L>{Larguras(1), Larguras(2), Larguras(3)}), c.larguras);
+        EXPECT_EQ(Alturas(), c.alturas);
+        EXPECT_EQ(I(1, 2).Esquerda, 80);
+    }
 }
 
 TEST_F(Magico, OfertaSoSobreEspacoLivreComOsLimiaresDoFundoEDoFimDaBanda)
@@ -207,4 +219,27 @@ TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
     CliqueMagico(s);
     EXPECT_EQ(s.Documento.NumBandas(), 3);
     EXPECT_EQ(pinturas, 2);
+}
+
+TEST_F(Magico, AlcaSobreABandaVizinhaEscondeOFantasmaEArrastaSemCriar)
+{
+    // Item (2, 2) is wider than the items above and under it: its top and
+    // bottom handles lie over the free part of bands 1 and 3.
+    for (const int alca : {3, 7}) {
+        Montar({{32}, {64, 64}, {32}});
+        Selecionar(2, 2);
+        const QPoint centro = RetanguloAlca(RetanguloSelecao(s), alca).center();
+        const QPoint fora(0, alca == 3 ? -5 : 5);
+        MoverCanvas(s, centro + fora, Qt::NoButton, {});
+        EXPECT_TRUE(s.Magico.visivel) << alca;
+        MoverCanvas(s, centro, Qt::NoButton, {});
+        EXPECT_FALSE(s.Magico.visivel) << alca;
+        // A ghost still up when the press comes loses to the handle too.
+        MoverCanvas(s, centro + fora, Qt::NoButton, {});
+        PressionarCanvas(s, centro + fora / 2, Qt::LeftButton, {});
+        EXPECT_EQ(s.Alca.indice, alca);
+        SoltarCanvas(s, Qt::LeftButton);
+        EXPECT_EQ(DasBandas([](const Banda &b) { return b.NumItens(); }), (QList<int>{1, 2, 1})) << alca;
+        EXPECT_EQ(Selecionado(), std::make_pair(2, 2));
+    }
 }

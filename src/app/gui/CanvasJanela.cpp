@@ -40,38 +40,10 @@ void PicPagina::AtualizarMarcas()
     update(ParaWidget(m_marcas.united(agora)).adjusted(-2, -2, 2, 2));
 }
 
-namespace {
-
-bool soShift(Qt::KeyboardModifiers m)
-{
-    return (m & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == Qt::ShiftModifier;
-}
-
-}  // namespace
-
 void PicPagina::mousePressEvent(QMouseEvent *e)
 {
     setFocus(Qt::MouseFocusReason);
-    const QPoint p = ParaCanvas(e->position());
-    if (e->button() != Qt::LeftButton && e->button() != Qt::RightButton)
-        return;
-    const bool esquerdo = e->button() == Qt::LeftButton;
-    if (m_sessao.Magico.visivel && m_sessao.Magico.retangulo.contains(p)) {
-        if (esquerdo) {
-            CliqueMagico(m_sessao);
-            return;
-        }
-        OcultarMagico(m_sessao);
-    }
-    if (esquerdo && !m_sessao.Faixa.visivel) {
-        const int alca = AlcaEm(m_sessao, p);
-        if (alca >= 0 && IniciarArrasteAlca(m_sessao, alca, e->position())) {
-            AtualizarMarcas();
-            return;
-        }
-    }
-    const ReacaoMouse r = MouseDownCanvas(m_sessao, p.x(), p.y(), esquerdo ? BotaoMouse::Esquerdo : BotaoMouse::Direito,
-                                          soShift(e->modifiers()));
+    const ReacaoMouse r = PressionarCanvas(m_sessao, ParaCanvas(e->position()), e->button(), e->modifiers());
     AtualizarMarcas();
     if (r == ReacaoMouse::MenuEditar)
         emit MenuEditar(e->globalPosition().toPoint());
@@ -79,27 +51,13 @@ void PicPagina::mousePressEvent(QMouseEvent *e)
 
 void PicPagina::mouseMoveEvent(QMouseEvent *e)
 {
-    const QPoint p = ParaCanvas(e->position());
-    if (m_sessao.Alca.Ativo()) {
-        if (e->buttons() & Qt::LeftButton)
-            MoverArrasteAlca(m_sessao, e->position());
-        return;
-    }
-    if (e->buttons() == Qt::LeftButton && (e->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier
-        && m_sessao.ItemSelecionado > 0) {
-        ArrastarSelecao(m_sessao, p.x(), p.y());
-        AtualizarMarcas();
-        return;
-    }
-    MoverMagico(m_sessao, p.x(), p.y(), e->buttons() == Qt::NoButton && e->modifiers() == Qt::NoModifier);
+    MoverCanvas(m_sessao, ParaCanvas(e->position()), e->buttons(), e->modifiers());
 }
 
 void PicPagina::mouseReleaseEvent(QMouseEvent *e)
 {
-    if (e->button() == Qt::LeftButton && m_sessao.Alca.Ativo()) {
-        SoltarArrasteAlca(m_sessao);
-        AtualizarMarcas();
-    }
+    SoltarCanvas(m_sessao, e->button());
+    AtualizarMarcas();
 }
 
 void PicPagina::leaveEvent(QEvent *e)

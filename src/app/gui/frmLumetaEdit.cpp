@@ -7,7 +7,7 @@
 #include "controls/ui/NomesPelaDica.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
-#include "dialogs/LigacaoDialogos.h"
+#include "app/gui/LigacaoDialogos.h"
 #include "dialogs/frmEstilo.h"
 #include "dialogs/frmMargens.h"
 #include "dialogs/frmNomeImpressora.h"

@@ -117,9 +117,12 @@ TEST(frmNomeImpressora, TypedNamesSelectTheirEntryAndAreStoredAsTyped)
         ASSERT_EQ(lista->count(), 4);
         EXPECT_EQ(lista->item(0)->text(), QStringLiteral("<< Padrão do Windows >>"));
         EXPECT_EQ(lista->item(1)->text(), QStringLiteral("<< O usuário seleciona >>"));
-        // A printer that is not installed: only the text box.
+        // A printer that is not installed: only the text box, also once the
+        // list has the focus.
         EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
         EXPECT_TRUE(lista->selectedItems().isEmpty());
+        lista->setFocus();
+        EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
         digitar(txt, QStringLiteral("pdf virtual"));
         EXPECT_EQ(lista->currentRow(), 3);
         EXPECT_EQ(lista->selectedItems().size(), 1);

@@ -11,6 +11,7 @@
 #include "dialogs/ApoioTestesDialogos.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -96,7 +97,11 @@ TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
         EXPECT_EQ(numero(w, "numEsquerda")->text(), QString());
         digitar(numero(w, "numSuperior"), QStringLiteral("3"));
         EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QString());
-        clicar(w, "btnCancelar");
+        // A paste keeps what the keys take; Escape closes from a number too.
+        QApplication::clipboard()->setText(QStringLiteral("4 cm"));
+        QTest::keyClick(numero(w, "numSuperior"), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(numero(w, "numSuperior")->text(), QStringLiteral("34"));
+        QTest::keyClick(numero(w, "numSuperior"), Qt::Key_Escape);
     });
     EXPECT_FALSE(mnuConfigMargens(t.s, nullptr));
     EXPECT_EQ(d.MargemSuperior, QStringLiteral("MARGEM-SUP"));

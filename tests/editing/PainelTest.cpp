@@ -206,11 +206,13 @@ TEST_F(PainelTest, CabecalhoERodapeSeExcluemEORodapeDesligaAQuebraFinal)
     Selecionar(2, 1);
     MarcarCabecalho(s, true);
     EXPECT_EQ(s.Documento.BandaCabecalho, 2);
-    s.Documento.QuebraPaginaFinal = true;
+    ASSERT_TRUE(s.AlternarQuebraPaginaFinal());
+    ASSERT_TRUE(s.TextoResultado.trimmed().endsWith(QStringLiteral("QP")));
     const QString msg = MarcarRodape(s, true);
     EXPECT_EQ(s.Documento.BandaRodape, 2);
     EXPECT_EQ(s.Documento.BandaCabecalho, 0);
     EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+    EXPECT_FALSE(s.TextoResultado.contains(QStringLiteral("QP")));   // at once, as the menu does
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, msg);
     EXPECT_TRUE(msg.startsWith(QStringLiteral("Não é possível finalizar com quebra de página")));

@@ -131,6 +131,9 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     EXPECT_FALSE(e.anguloHabilitado);
     EXPECT_EQ(e.angulo, 0);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("&Figura"));
+    s.Faixa = {true, 1, 1, 1, 2};   // with a range the button is the font's
+    EXPECT_EQ(CalcularPainel(s).legendaFonte, QStringLiteral("&Fonte"));
+    s.Faixa = {};
     EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00001"));
     // Linear barcode, zoom 3; PDF417 hides 7, 8 and 10 again.
     Selecionar(1, 3);

@@ -97,6 +97,14 @@ TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
     auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { t.p->btnFonte->click(); }, cancelar));
+    // A range makes it the font button at once; without the range it is the barcode's again.
+    t.s.AddItem(1, false, 0);   // goes before the selected barcode
+    t.s.ConcluirEdicao();
+    QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, Qt::ShiftModifier, QPoint(8 + 10, 16 + 5));
+    ASSERT_TRUE(t.s.Faixa.visivel);
+    EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("&Fonte"));
+    QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 64 + 10, 16 + 5));
+    EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
 
     // The type pop-up offers every type but the item's own.
     auto direito = [&] {
@@ -113,7 +121,8 @@ TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_EQ(habilitadas, (QStringList{"mnuPopup2Texto", "mnuPopup2Figura", "mnuPopup2Comando"}));
     menu->close();
     menu->actions()[0]->trigger();
-    EXPECT_EQ(t.item().Tipo, 0);
+    EXPECT_EQ(t.s.Documento.banda(1).Itens[t.s.ItemSelecionado - 1].Tipo, 0);
+    EXPECT_EQ(t.s.ItemSelecionado, 2);
     direito();
     menu->close();
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { menu->actions()[3]->trigger(); }, cancelar));

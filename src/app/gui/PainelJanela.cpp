@@ -621,6 +621,13 @@ void PainelJanela::Atualizar()
     m_preenchendo = false;
 }
 
+void PainelJanela::AtualizarBotaoFonte()
+{
+    const EstadoPainel e = CalcularPainel(m_sessao);
+    btnFonte->setText(e.legendaFonte);
+    btnFonte->setToolTip(e.dicaFonte);
+}
+
 void PainelJanela::executar(const std::function<void()> &comando)
 {
     if (m_preenchendo)

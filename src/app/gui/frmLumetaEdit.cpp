@@ -668,6 +668,7 @@ void frmLumetaEdit::ligarSessao()
     g.SelecionarItem = [this] {
         MostrarSelecao();
         picPagina->AtualizarMarcas();
+        painel->AtualizarBotaoFonte();
     };
     g.SelecionarBanda = [this] { picPagina->AtualizarMarcas(); };
     g.Validar = [this] {

@@ -388,6 +388,7 @@ TEST(CommonDialogCls, NomesDosLayoutsComOsEstilosReaisDaFamiliaGemea)
             for (int k = 0; k < estilos->count(); ++k)
                 legendas << estilos->item(k)->text();
             EXPECT_EQ(legendas, (QStringList{"Normal", "Itálico", "Negrito", "Negrito Itálico"})) << nome;
+            teste::ConferirNomesAcessiveis(d, {"Fonte:", "Estilo da fonte:", "Tamanho:", "Sublinhado", "Ok"});
             estilos->setCurrentRow(estilo);
             static_cast<QDialog *>(d)->accept();
         });

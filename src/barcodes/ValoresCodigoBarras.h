@@ -1,8 +1,9 @@
 #pragma once
-// What the barcode dialog reads from and writes to the items: the type, the
-// content (a fixed value kept in double quotes, or a field name as typed),
-// "use the band height" (flag position 10) and the graph-bar layout; and
-// the samples its preview draws for each type.
+// The barcode dialog's values: the type, the content (a fixed value kept in
+// double quotes, or a field name as typed), "use the band height" (flag
+// position 10) and the graph-bar layout; and the samples its preview draws
+// for each type. Reading them from the items and writing them back is an
+// editing command (editing/ComandosDialogos.h).
 
 #include "document/Layout.h"
 
@@ -10,8 +11,6 @@
 #include <QString>
 
 namespace lumeta {
-
-class SessaoEdicao;
 
 struct ValoresCodigoBarras {
     uint8_t Tipo = TipoEAN13;
@@ -55,11 +54,5 @@ int AlturaBarraGrafico(const QString &texto);
 QString AmostraCodigoBarras(int tipo);
 QString CaracteresValidos(int tipo);
 QImage PreviaCodigoBarras(int tipo);
-
-// The values of the selected item, as the dialog opens with them.
-ValoresCodigoBarras LerValoresCodigoBarras(const SessaoEdicao &s);
-// The dialog's result on the selected item or every item of the range,
-// followed by the repaint. Nothing happens without a target.
-void AplicarCodigoBarras(SessaoEdicao &s, const ValoresCodigoBarras &v);
 
 }  // namespace lumeta

@@ -226,6 +226,15 @@ EfeitoTecla RegrasNumero::Tecla(QChar k)
     return EfeitoTecla::Recusada;
 }
 
+void RegrasNumero::Colar(const QString &texto)
+{
+    if (Travado)
+        return;
+    for (QChar k : texto)
+        if (k.isPrint())
+            Tecla(k);
+}
+
 void RegrasNumero::GanharFoco()
 {
     m_valorAoFocar = m_valor;

@@ -50,9 +50,12 @@ public:
 
     // A character typed in the field (Backspace is '\b', Escape '\x1b').
     EfeitoTecla Tecla(QChar k);
-    // The text changed (typed or pasted): sign, counts, value. Returns
-    // whether `Change` is due.
+    // The text changed behind the keys (Delete, undo): sign, counts, value.
+    // Returns whether `Change` is due.
     bool TextoAlterado();
+    // Pasted text over the selection: each character as if typed, so only
+    // what the keys would take arrives; the rest is dropped without a beep.
+    void Colar(const QString &texto);
     void GanharFoco();
     void PerderFoco();
 

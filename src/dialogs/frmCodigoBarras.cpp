@@ -2,7 +2,7 @@
 
 #include "dialogs/ApoioDialogos.h"
 #include "editing/Selecao.h"
-#include "editing/SessaoEdicao.h"
+#include "editing/ComandosDialogos.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

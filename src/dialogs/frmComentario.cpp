@@ -2,7 +2,7 @@
 
 #include "dialogs/ApoioDialogos.h"
 #include "document/Configuracoes.h"
-#include "editing/SessaoEdicao.h"
+#include "editing/ComandosDialogos.h"
 
 #include <QApplication>
 #include <QFontDatabase>

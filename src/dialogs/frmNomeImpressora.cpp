@@ -47,10 +47,13 @@ frmNomeImpressora::frmNomeImpressora(const QString &valor, const QStringList &im
         if (k < 0)
             lstImpressoras->clearSelection();
     });
-    // The box follows the list only when the user picks in the list.
-    connect(lstImpressoras, &QListWidget::currentRowChanged, this, [this](int k) {
-        if (k >= 0)
-            txtImpressora->setText(m_lista[k]);
+    // The box follows the list only when the user picks in the list: the
+    // list taking the focus makes its first entry current without selecting
+    // it, and that must not overwrite a typed name.
+    connect(lstImpressoras, &QListWidget::itemSelectionChanged, this, [this] {
+        const QList<QListWidgetItem *> escolhidas = lstImpressoras->selectedItems();
+        if (lstImpressoras->hasFocus() && !escolhidas.isEmpty())
+            txtImpressora->setText(escolhidas.first()->text());
     });
     connect(lstImpressoras, &QListWidget::itemDoubleClicked, this, &frmNomeImpressora::confirmar);
 

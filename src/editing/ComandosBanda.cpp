@@ -174,7 +174,9 @@ QString VerificarRodapeQuebraFinal(SessaoEdicao &sessao)
         return QString();
     const QString texto = Informar(sessao, MensagemQuebraFinalRemovida);
     doc.QuebraPaginaFinal = false;
-    sessao.Alterado = true;
+    // As the menu command does: the result pane and the menu's check mark
+    // lose the final break at once.
+    sessao.OpcaoAlterada();
     return texto;
 }
 

@@ -1,5 +1,6 @@
 #include "editing/ComandosOpcoes.h"
 
+#include "editing/Selecao.h"
 #include "editing/SessaoEdicao.h"
 #include "output/TextoComandos.h"
 #include "output/Visualizacao.h"
@@ -98,20 +99,18 @@ void DefinirTextoEmail(SessaoEdicao &s, const QString &caixa)
 
 void DefinirTextoEstilo(SessaoEdicao &s, const QString &texto)
 {
-    if (s.ItemSelecionado < 1 || s.BandaSelecionada < 1 || s.BandaSelecionada > s.Documento.NumBandas())
-        return;
-    Banda &b = s.Documento.banda(s.BandaSelecionada);
-    if (s.ItemSelecionado > b.NumItens())
-        return;
-    Item &item = b.Itens[s.ItemSelecionado - 1];
     bool mudou = false;
-    if (texto.contains(QStringLiteral("{e}"), Qt::CaseInsensitive) && item.Atributos[FlagVariasLinhas] != u'1') {
-        item.Atributos[FlagVariasLinhas] = u'1';
-        mudou = true;
-    }
-    if (texto != item.Texto) {
-        item.Texto = texto;
-        mudou = true;
+    const bool variasLinhas = texto.contains(QStringLiteral("{e}"), Qt::CaseInsensitive);
+    for (const AlvoItens &a : ItensAlvo(s)) {
+        Item &item = s.Documento.banda(a.banda).Itens[a.item - 1];
+        if (variasLinhas && item.Atributos[FlagVariasLinhas] != u'1') {
+            item.Atributos[FlagVariasLinhas] = u'1';
+            mudou = true;
+        }
+        if (texto != item.Texto) {
+            item.Texto = texto;
+            mudou = true;
+        }
     }
     if (mudou)
         s.ConcluirEdicao();

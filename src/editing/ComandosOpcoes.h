@@ -46,8 +46,9 @@ void DefinirQualidadeJPG(SessaoEdicao &s, int16_t qualidade);
 // --- e-mail text and style ---------------------------------------------------------------
 // The text as the e-mail dialog's box holds it.
 void DefinirTextoEmail(SessaoEdicao &s, const QString &caixa);
-// The selected item's new text from the style dialog (already with "{e}"):
-// a text of several lines turns on the item's several-lines flag.
+// The new text from the style dialog (already with "{e}") for the selected
+// item or every item of a visible range: a text of several lines turns on
+// each one's several-lines flag.
 void DefinirTextoEstilo(SessaoEdicao &s, const QString &texto);
 
 // --- preview -------------------------------------------------------------------------------

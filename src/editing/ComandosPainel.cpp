@@ -164,8 +164,11 @@ QString MarcarRodape(SessaoEdicao &s, bool marcada)
     } else {
         d.BandaRodape = 0;
     }
+    // The option goes off before the repaint, so the undo step of the footer
+    // never holds a footer with the final break.
+    const QString aviso = marcada ? VerificarRodapeQuebraFinal(s) : QString();
     repintar(s);
-    return marcada ? VerificarRodapeQuebraFinal(s) : QString();
+    return aviso;
 }
 
 bool AlterarFonte(SessaoEdicao &s)

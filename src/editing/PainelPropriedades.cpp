@@ -137,6 +137,11 @@ EstadoPainel CalcularPainel(const SessaoEdicao &s)
         e.corLinha = it->CorLinha;
     }
     ExibirTipo(s, e);
+    // With a range the button always opens the font dialog, whatever the types.
+    if (s.Faixa.visivel && e.temItem) {
+        e.legendaFonte = QStringLiteral("&Fonte");
+        e.dicaFonte = QStringLiteral("Alterar a fonte do item selecionado");
+    }
     return e;
 }
 

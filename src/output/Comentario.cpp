@@ -1,7 +1,5 @@
 #include "output/Comentario.h"
 
-#include "editing/Selecao.h"
-#include "editing/SessaoEdicao.h"
 #include "output/CopiarComo.h"
 
 namespace lumeta {
@@ -55,14 +53,6 @@ QString CodigoFerramenta(const LinguagemDef &ling, FerramentaComentario ferramen
     if (ling.EhCobol)
         codigo = QuebrarLinhasCobol(codigo, ling.CobolString);
     return codigo;
-}
-
-void DefinirComentario(SessaoEdicao &s, const QString &comentario)
-{
-    if (s.BandaSelecionada < 1 || s.BandaSelecionada > s.Documento.Bandas.size())
-        return;
-    s.Documento.banda(s.BandaSelecionada).Comentario = comentario;
-    s.ConcluirEdicao();
 }
 
 }  // namespace lumeta

@@ -11,8 +11,6 @@
 
 namespace lumeta {
 
-class SessaoEdicao;
-
 inline constexpr QChar SeparadorComentario = QChar(0xFF);
 
 struct PartesComentario {
@@ -36,8 +34,5 @@ enum class FerramentaComentario { QuebraPagina, VariavelMacro };
 // command or by a variable assignment for the user to complete, ending with
 // CR LF and, for a COBOL language, split at its columns.
 QString CodigoFerramenta(const LinguagemDef &ling, FerramentaComentario ferramenta);
-
-// Stores the text into the selected band and repaints.
-void DefinirComentario(SessaoEdicao &s, const QString &comentario);
 
 }  // namespace lumeta

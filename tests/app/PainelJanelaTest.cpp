@@ -9,8 +9,10 @@
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -95,6 +97,14 @@ TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
     auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { t.p->btnFonte->click(); }, cancelar));
+    // A range makes it the font button at once; without the range it is the barcode's again.
+    t.s.AddItem(1, false, 0);   // goes before the selected barcode
+    t.s.ConcluirEdicao();
+    QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, Qt::ShiftModifier, QPoint(8 + 10, 16 + 5));
+    ASSERT_TRUE(t.s.Faixa.visivel);
+    EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("&Fonte"));
+    QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 64 + 10, 16 + 5));
+    EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
 
     // The type pop-up offers every type but the item's own.
     auto direito = [&] {
@@ -111,10 +121,54 @@ TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_EQ(habilitadas, (QStringList{"mnuPopup2Texto", "mnuPopup2Figura", "mnuPopup2Comando"}));
     menu->close();
     menu->actions()[0]->trigger();
-    EXPECT_EQ(t.item().Tipo, 0);
+    EXPECT_EQ(t.s.Documento.banda(1).Itens[t.s.ItemSelecionado - 1].Tipo, 0);
+    EXPECT_EQ(t.s.ItemSelecionado, 2);
     direito();
     menu->close();
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { menu->actions()[3]->trigger(); }, cancelar));
+}
+
+TEST(PainelJanela, CodBarrasNaCaixaDeTipoAbreODialogoECancelarMostraOTipoReal)
+{
+    Painel t;
+    QComboBox *tipo = t.p->cmbTipo;
+    tipo->setFocus();
+    tipo->setCurrentIndex(3);
+    auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
+    EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { emit tipo->activated(3); }, cancelar));
+    EXPECT_EQ(t.item().Tipo, TipoTexto);
+    EXPECT_EQ(tipo->currentText(), QStringLiteral("Texto"));
+}
+
+TEST(PainelJanela, DeslocamentoNegativo)
+{
+    Painel t;
+    t.s.AddBanda(0, false, 0, 0);
+    t.s.BandaSelecionada = 2;
+    t.s.ItemSelecionado = 1;
+    t.s.ConcluirEdicao();
+    QLineEdit *campo = t.p->numDeslocamento->txtNumero();
+    campo->setFocus();
+    QTest::keyClicks(campo, QStringLiteral("-16"));
+    QTest::keyClick(campo, Qt::Key_Return);
+    EXPECT_EQ(t.s.Documento.banda(2).Deslocamento, -16);
+    EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("RT -0016")));
+    campo->setFocus();   // the sign stays when the field is entered again
+    EXPECT_EQ(campo->text(), QStringLiteral("-16"));
+    EXPECT_EQ(t.p->numDeslocamento->Value(), -16);
+}
+
+TEST(PainelJanela, EnterPassaAdianteNasCaixas)
+{
+    Painel t;
+    for (QWidget *w : std::initializer_list<QWidget *>{t.p->cmbTipo, t.p->cmbAngulo, t.p->chkCabecalho,
+                                                         t.p->chkAlinhamento[0]}) {
+        w->setFocus();
+        QTest::keyClick(w, Qt::Key_Return);
+        EXPECT_FALSE(w->hasFocus()) << w->objectName().toStdString();
+    }
+    EXPECT_EQ(t.s.Documento.BandaCabecalho, 0);
+    EXPECT_EQ(t.item().Atributos.at(0), u'0');
 }
 
 TEST(PainelJanela, DigitarNoCanvasEEnter)
@@ -129,8 +183,8 @@ TEST(PainelJanela, DigitarNoCanvasEEnter)
     QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
     EXPECT_EQ(t.item().Texto, QStringLiteral("abc"));
     EXPECT_TRUE(t.janela.picPagina->hasFocus());
-    // Enter on the canvas goes back to the text.
-    QTest::keyClick(t.janela.picPagina, Qt::Key_Return);
+    // Enter on the canvas goes back to the text, the numeric pad's too.
+    QTest::keyClick(t.janela.picPagina, Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_TRUE(t.p->txtTexto->hasFocus());
     // A click on the canvas commits a pending edit first.
     QTest::keyClicks(t.p->txtTexto, QStringLiteral("!"));
@@ -179,4 +233,13 @@ TEST(PainelJanela, ControlesAcessiveisPeloNome)
     for (const char *nome : {"picCores", "picCoresLinhas", "PicCorItem", "picCorLinha"})
         esperados << t.janela.findChild<QWidget *>(QLatin1String(nome))->toolTip();
     teste::ConferirNomesAcessiveis(&t.janela, esperados);
+    // The boxes are heard by their labels, their entry is their value.
+    for (const auto &[caixa, nome] : {std::pair<QComboBox *, QString>{t.p->cmbTipo, QStringLiteral("Tipo:")},
+                                      {t.p->cmbAngulo, QStringLiteral("Ângulo:")},
+                                      {t.p->cmbTamanho, QStringLiteral("Zoom:")}}) {
+        QAccessibleInterface *i = QAccessible::queryAccessibleInterface(caixa);
+        EXPECT_EQ(i->text(QAccessible::Name), nome);
+        EXPECT_EQ(i->text(QAccessible::Value), caixa->currentText());
+        EXPECT_EQ(i->role(), QAccessible::ComboBox);
+    }
 }

@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTest>
 #include <QSettings>
 #include <QPlainTextEdit>
 #include <QWheelEvent>
@@ -164,12 +165,15 @@ TEST(frmLumetaEdit, DesfazerSoComEdicaoEForaDeCaixaDeTexto)
     QApplication::processEvents();
     emit j.janela.mnuEditar->aboutToShow();
     EXPECT_FALSE(desfazer->isEnabled());
-    j.janela.picPagina->setFocus();
+    // The read-only result pane is no text box: undo and Ctrl+Z work there.
+    j.janela.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&j.janela));
+    j.janela.rtbResultado->setFocus();
     delete caixa;
     QApplication::processEvents();
     emit j.janela.mnuEditar->aboutToShow();
     ASSERT_TRUE(desfazer->isEnabled());
-    desfazer->trigger();
+    QTest::keyClick(j.janela.rtbResultado, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(j.janela.rtbResultado->toPlainText().count(QStringLiteral("RH 00018")), 2);
 }
 

@@ -187,3 +187,28 @@ TEST_F(RegrasNumeroTest, SinalSoComPermissao)
     r.Travado = true;
     EXPECT_EQ(r.Tecla(u'1'), EfeitoTecla::Recusada);
 }
+
+TEST_F(RegrasNumeroTest, ColarGuardaSoOQueAsTeclasAceitam)
+{
+    // Pasted over the whole text of 0, in a 4.2 field.
+    const struct {
+        QString colado;
+        bool sinal;
+        QString texto;
+    } casos[] = {
+        {QStringLiteral("12abc3"), false, QStringLiteral("123")},
+        {QStringLiteral("-16"), false, QStringLiteral("16")},
+        {QStringLiteral("-16"), true, QStringLiteral("-16")},
+        {QStringLiteral("R$ 7,25"), false, QStringLiteral("7,25")},
+        {QStringLiteral("123456789"), false, QStringLiteral("1234")},
+        {QStringLiteral("x y"), false, QStringLiteral("0")},
+    };
+    for (const auto &c : casos) {
+        RegrasNumero r;
+        r.DefinirFormato(4.2);
+        r.PermitirSinal = c.sinal;
+        r.GanharFoco();
+        r.Colar(c.colado);
+        EXPECT_EQ(r.Texto, c.texto) << c.colado.toStdString();
+    }
+}

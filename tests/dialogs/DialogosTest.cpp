@@ -11,6 +11,7 @@
 #include "dialogs/ApoioTestesDialogos.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -96,7 +97,11 @@ TEST(frmMargens, NumbersAndNamesAreWrittenBackAndCancelKeepsAll)
         EXPECT_EQ(numero(w, "numEsquerda")->text(), QString());
         digitar(numero(w, "numSuperior"), QStringLiteral("3"));
         EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QString());
-        clicar(w, "btnCancelar");
+        // A paste keeps what the keys take; Escape closes from a number too.
+        QApplication::clipboard()->setText(QStringLiteral("4 cm"));
+        QTest::keyClick(numero(w, "numSuperior"), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(numero(w, "numSuperior")->text(), QStringLiteral("34"));
+        QTest::keyClick(numero(w, "numSuperior"), Qt::Key_Escape);
     });
     EXPECT_FALSE(mnuConfigMargens(t.s, nullptr));
     EXPECT_EQ(d.MargemSuperior, QStringLiteral("MARGEM-SUP"));
@@ -117,9 +122,12 @@ TEST(frmNomeImpressora, TypedNamesSelectTheirEntryAndAreStoredAsTyped)
         ASSERT_EQ(lista->count(), 4);
         EXPECT_EQ(lista->item(0)->text(), QStringLiteral("<< Padrão do Windows >>"));
         EXPECT_EQ(lista->item(1)->text(), QStringLiteral("<< O usuário seleciona >>"));
-        // A printer that is not installed: only the text box.
+        // A printer that is not installed: only the text box, also once the
+        // list has the focus.
         EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
         EXPECT_TRUE(lista->selectedItems().isEmpty());
+        lista->setFocus();
+        EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
         digitar(txt, QStringLiteral("pdf virtual"));
         EXPECT_EQ(lista->currentRow(), 3);
         EXPECT_EQ(lista->selectedItems().size(), 1);

@@ -2,9 +2,10 @@
 // the real window: the two fields, the graph-bar option, OK and Cancel.
 #include "dialogs/frmCodigoBarras.h"
 
+#include "app/gui/LigacaoDialogos.h"
 #include "app/gui/frmLumetaEdit.h"
 #include "dialogs/ApoioTestesDialogos.h"
-#include "dialogs/LigacaoDialogos.h"
+#include "editing/ComandosDialogos.h"
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 

@@ -53,4 +53,13 @@ TEST(ComandosOpcoes, TextoEmVariasLinhasLigaOEstiloEOInalteradoNaoGuardaInstanta
     EXPECT_EQ(depois.Atributos, QStringLiteral("0000110010"));
     EXPECT_TRUE(s.Alterado);
     EXPECT_TRUE(s.TextoResultado.contains(QStringLiteral("Total{E}Geral")));
+
+    // A visible range takes the text in every item.
+    s.AddItem(1, false, 0);
+    s.Faixa = {true, 1, 1, 1, 2};
+    DefinirTextoEstilo(s, QStringLiteral("A{e}B"));
+    for (const Item &it : s.Documento.banda(1).Itens) {
+        EXPECT_EQ(it.Texto, QStringLiteral("A{e}B"));
+        EXPECT_EQ(it.Atributos.at(5), u'1');
+    }
 }

@@ -131,6 +131,9 @@ TEST_F(PainelTest, ExibirTipoPorTipoDeItem)
     EXPECT_FALSE(e.anguloHabilitado);
     EXPECT_EQ(e.angulo, 0);
     EXPECT_EQ(e.legendaFonte, QStringLiteral("&Figura"));
+    s.Faixa = {true, 1, 1, 1, 2};   // with a range the button is the font's
+    EXPECT_EQ(CalcularPainel(s).legendaFonte, QStringLiteral("&Fonte"));
+    s.Faixa = {};
     EXPECT_EQ(Visiveis(e, {5, 6, 7, 8, 10}), QStringLiteral("00001"));
     // Linear barcode, zoom 3; PDF417 hides 7, 8 and 10 again.
     Selecionar(1, 3);
@@ -206,11 +209,13 @@ TEST_F(PainelTest, CabecalhoERodapeSeExcluemEORodapeDesligaAQuebraFinal)
     Selecionar(2, 1);
     MarcarCabecalho(s, true);
     EXPECT_EQ(s.Documento.BandaCabecalho, 2);
-    s.Documento.QuebraPaginaFinal = true;
+    ASSERT_TRUE(s.AlternarQuebraPaginaFinal());
+    ASSERT_TRUE(s.TextoResultado.trimmed().endsWith(QStringLiteral("QP")));
     const QString msg = MarcarRodape(s, true);
     EXPECT_EQ(s.Documento.BandaRodape, 2);
     EXPECT_EQ(s.Documento.BandaCabecalho, 0);
     EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+    EXPECT_FALSE(s.TextoResultado.contains(QStringLiteral("QP")));   // at once, as the menu does
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, msg);
     EXPECT_TRUE(msg.startsWith(QStringLiteral("Não é possível finalizar com quebra de página")));

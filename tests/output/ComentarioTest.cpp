@@ -1,8 +1,6 @@
 // A band's code before and after its commands: the one stored text, the caret
-// position, the tools' code and the repaint after a change.
+// position and the tools' code.
 #include "output/Comentario.h"
-
-#include "editing/SessaoEdicao.h"
 
 #include <gtest/gtest.h>
 
@@ -45,15 +43,4 @@ TEST(Comentario, CodigoDasFerramentas)
     for (const QString &linha : cobol.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts))
         EXPECT_LE(linha.size(), 72) << linha.toStdString();
     EXPECT_GT(cobol.count(QStringLiteral("\r\n")), 1);
-}
-
-TEST(Comentario, GuardadoNaBandaComRepintura)
-{
-    SessaoEdicao s;
-    s.NovoLMT();
-    s.Alterado = false;
-    DefinirComentario(s, QStringLiteral("X") + QChar(0xFF) + QStringLiteral("Y"));
-    EXPECT_EQ(s.Documento.banda(1).Comentario, QStringLiteral("X") + QChar(0xFF) + QStringLiteral("Y"));
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_TRUE(s.PodeDesfazer());
 }

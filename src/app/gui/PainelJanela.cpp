@@ -1,6 +1,7 @@
 #include "app/gui/PainelJanela.h"
 
 #include "canvas/Cores.h"
+#include "controls/ui/NomesPelaDica.h"
 #include "controls/ui/NumeroCtl.h"
 #include "editing/ComandosItem.h"
 #include "editing/ComandosPainel.h"
@@ -205,6 +206,7 @@ QToolButton *botao(QWidget *pai, const QString &nome, const QString &dica, const
 PainelJanela::PainelJanela(SessaoEdicao &sessao, QWidget *pai) : QWidget(pai), m_sessao(sessao)
 {
     setObjectName(QStringLiteral("painelPropriedades"));
+    NomearCaixasPeloNome();
     CarregarPaletaExtendida();
     criar();
     Atualizar();
@@ -254,8 +256,15 @@ void PainelJanela::criar()
     gTipo->setColumnStretch(1, 2);
     l->addLayout(gTipo);
     connect(cmbTipo, &QComboBox::activated, this, [this](int i) {
-        if (i == 3)
-            return;   // the barcode dialog comes with its own window
+        if (i == 3) {
+            executar([this] { emit CodigoBarrasPedido(); });
+            // The box keeps the focus, so the refresh leaves it alone: a
+            // cancelled dialog must not leave "Cód. Barras" on a text item.
+            const int tipo = CalcularPainel(m_sessao).tipo;
+            if (tipo >= 0)
+                cmbTipo->setCurrentIndex(tipo);
+            return;
+        }
         static const uint8_t tipos[3] = {TipoTexto, TipoFigura, TipoComando};
         executar([this, i] { DefinirTipoItem(m_sessao, tipos[i]); });
     });
@@ -335,6 +344,7 @@ void PainelJanela::criar()
     numDeslocamento = campo(QStringLiteral("numDeslocamento"), QStringLiteral("Deslocamen&to:"), 2, 0);
     numLeft = campo(QStringLiteral("numLeft"), QStringLiteral("Esquerda:"), 3, 0);
     numTop = campo(QStringLiteral("numTop"), QStringLiteral("Topo:"), 4, 0);
+    numDeslocamento->setAllowSignal(true);   // a band may start above the end of the previous one
     numLeft->setLocked(true);
     numTop->setLocked(true);
     gCampos->setColumnStretch(2, 1);
@@ -406,7 +416,6 @@ void PainelJanela::criar()
     cmbTamanho = new QComboBox(fraTamanho);
     cmbTamanho->setObjectName(QStringLiteral("cmbTamanho"));
     cmbTamanho->addItems(ListaZoom);
-    cmbTamanho->setAccessibleName(QStringLiteral("Zoom"));
     hZoom->addWidget(cmbTamanho);
     connect(cmbTamanho, &QComboBox::activated, this, [this](int i) { executar([this, i] { DefinirZoom(m_sessao, i); }); });
     gFlags->addWidget(fraTamanho, 3, 0, 1, 2);
@@ -511,6 +520,16 @@ void PainelJanela::criar()
         executar([this, alvo, x, y, esq] { CliquePaletaExtendida(m_sessao, alvo, x, y, esq); });
     };
 
+    // The boxes are named by their labels, as the fields are; Enter moves on
+    // from them and from the check boxes as it does from the fields.
+    cmbTipo->setAccessibleName(QStringLiteral("Tipo:"));
+    cmbAngulo->setAccessibleName(QStringLiteral("Ângulo:"));
+    cmbTamanho->setAccessibleName(QStringLiteral("Zoom:"));
+    for (QWidget *w : std::initializer_list<QWidget *>{cmbTipo, cmbAngulo, cmbTamanho, chkCabecalho, chkRodape})
+        w->installEventFilter(this);
+    for (QCheckBox *c : chkAlinhamento)
+        c->installEventFilter(this);
+
     setTabOrder(txtTexto, cmbTipo);
     setTabOrder(cmbTipo, cmbAngulo);
     setTabOrder(cmbAngulo, btnFonte);
@@ -600,6 +619,13 @@ void PainelJanela::Atualizar()
         w->update();
     }
     m_preenchendo = false;
+}
+
+void PainelJanela::AtualizarBotaoFonte()
+{
+    const EstadoPainel e = CalcularPainel(m_sessao);
+    btnFonte->setText(e.legendaFonte);
+    btnFonte->setToolTip(e.dicaFonte);
 }
 
 void PainelJanela::executar(const std::function<void()> &comando)
@@ -732,7 +758,7 @@ bool PainelJanela::eventFilter(QObject *obj, QEvent *e)
     if (e->type() == QEvent::KeyPress) {
         auto *k = static_cast<QKeyEvent *>(e);
         const bool enter = k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter;
-        if (enter && obj == m_canvas && k->modifiers() == Qt::NoModifier) {
+        if (enter && obj == m_canvas && (k->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
             if (txtTexto->isEnabled())
                 FocarTexto();
             return true;

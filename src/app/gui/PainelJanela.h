@@ -31,6 +31,9 @@ public:
 
     // `Validar`: everything from the session again.
     void Atualizar();
+    // Only the font button's caption and tooltip: a range set or cleared
+    // changes them without the rest of the panel being refreshed.
+    void AtualizarBotaoFonte();
     // Commits the pending edits (text, thickness, width, height,
     // displacement); false would cancel the click that asked for it.
     bool ConfirmarPendentes();

@@ -7,7 +7,7 @@
 #include "controls/ui/NomesPelaDica.h"
 #include "controls/ui/TabCtl.h"
 #include "controls/ui/XPButtonCtl.h"
-#include "dialogs/LigacaoDialogos.h"
+#include "app/gui/LigacaoDialogos.h"
 #include "dialogs/frmEstilo.h"
 #include "dialogs/frmMargens.h"
 #include "dialogs/frmNomeImpressora.h"
@@ -62,9 +62,18 @@ QString escaparMenu(QString texto)
     return texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+// A box the user types in: undo there is the box's own. A read-only box (the
+// result pane, the position fields) has nothing to undo, so the layout's
+// undo works from it.
 bool ehCaixaDeTexto(QWidget *w)
 {
-    return qobject_cast<QLineEdit *>(w) || qobject_cast<QTextEdit *>(w) || qobject_cast<QPlainTextEdit *>(w);
+    if (auto *l = qobject_cast<QLineEdit *>(w))
+        return !l->isReadOnly();
+    if (auto *t = qobject_cast<QTextEdit *>(w))
+        return !t->isReadOnly();
+    if (auto *t = qobject_cast<QPlainTextEdit *>(w))
+        return !t->isReadOnly();
+    return false;
 }
 
 // The command text with CR LF turned into LF, in one pass over the megabytes
@@ -334,7 +343,7 @@ void frmLumetaEdit::criarMenuEditar()
         connect(a, &QAction::triggered, this, [this, i] { painel->InserirMacro(int(i)); });
     }
     mnuEditar->addSeparator();
-    item(mnuEditar, QStringLiteral("mnuEditarLinguagens"), QStringLiteral("&Linguagens..."), false);
+    item(mnuEditar, QStringLiteral("mnuEditarLinguagens"), QStringLiteral("&Linguagens"), false);
     item(mnuEditar, QStringLiteral("mnuEditarVisualizar"), QStringLiteral("&Visualizar"), false);
 }
 
@@ -659,6 +668,7 @@ void frmLumetaEdit::ligarSessao()
     g.SelecionarItem = [this] {
         MostrarSelecao();
         picPagina->AtualizarMarcas();
+        painel->AtualizarBotaoFonte();
     };
     g.SelecionarBanda = [this] { picPagina->AtualizarMarcas(); };
     g.Validar = [this] {

@@ -1,11 +1,21 @@
 #include "controls/ui/CommonDialogCls.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
+#include <QDoubleValidator>
 #include <QFileDialog>
-#include <QFontDialog>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
 
 namespace lumeta {
 
@@ -63,6 +73,272 @@ public:
         }
         QFileDialog::accept();
     }
+};
+
+}  // namespace
+
+// The font chooser. Qt's own dialog knows only installed families, and the
+// layouts name "Arial", "Times New Roman" and "Courier New", which this
+// platform draws with metric-compatible families: for those names it offered
+// made-up styles without bold. Here each of the three names stands for its
+// twin's real styles, and the name itself is what the item keeps.
+namespace {
+
+struct Gemea {
+    const char *nome;
+    const char *familia;
+};
+constexpr Gemea Gemeas[] = {
+    {"Arial", "Liberation Sans"},
+    {"Times New Roman", "Liberation Serif"},
+    {"Courier New", "Liberation Mono"},
+};
+
+// The family that draws `nome`: itself when installed, else its twin when
+// that is, else whatever the system matches it to.
+QString familiaQueDesenha(const QString &nome)
+{
+    const QStringList instaladas = QFontDatabase::families();
+    if (instaladas.contains(nome, Qt::CaseInsensitive))
+        return nome;
+    for (const Gemea &g : Gemeas)
+        if (nome.compare(QLatin1String(g.nome), Qt::CaseInsensitive) == 0
+            && instaladas.contains(QLatin1String(g.familia)))
+            return QLatin1String(g.familia);
+    return QFontInfo(QFont(nome)).family();
+}
+
+struct EstiloFonte {
+    QString legenda;
+    bool negrito;
+    bool italico;
+};
+
+// The bold and italic combinations the family really has, in the order of
+// the system's font dialog.
+QList<EstiloFonte> estilosDe(const QString &familia)
+{
+    bool tem[2][2] = {};
+    for (const QString &e : QFontDatabase::styles(familia))
+        tem[QFontDatabase::weight(familia, e) >= QFont::Bold][QFontDatabase::italic(familia, e)] = true;
+    tem[0][0] = true;
+    const EstiloFonte todos[] = {{QStringLiteral("Normal"), false, false},
+                                 {QStringLiteral("Itálico"), false, true},
+                                 {QStringLiteral("Negrito"), true, false},
+                                 {QStringLiteral("Negrito Itálico"), true, true}};
+    QList<EstiloFonte> r;
+    for (const EstiloFonte &e : todos)
+        if (tem[e.negrito][e.italico])
+            r.append(e);
+    return r;
+}
+
+QString textoTamanho(double t)
+{
+    return QLocale().toString(t, 'g', 4);
+}
+
+class DialogoFonte : public QDialog {
+public:
+    DialogoFonte(const FonteDialogo &inicial, bool soImpressao, QWidget *dono) : QDialog(dono), m_fonte(inicial)
+    {
+        setObjectName(QStringLiteral("frmFonte"));
+        setWindowTitle(QStringLiteral("Fonte"));
+        if (m_fonte.Nome.isEmpty())
+            m_fonte.Nome = QStringLiteral("Arial");
+        if (m_fonte.Tamanho <= 0)
+            m_fonte.Tamanho = 10;
+
+        txtFonte = caixa("txtFonte");
+        lstFonte = lista("lstFonte", QStringLiteral("Fonte:"));
+        txtEstilo = caixa("txtEstilo");
+        txtEstilo->setReadOnly(true);
+        lstEstilo = lista("lstEstilo", QStringLiteral("Estilo da fonte:"));
+        txtTamanho = caixa("txtTamanho");
+        txtTamanho->setValidator(new QDoubleValidator(1, 1638, 1, txtTamanho));
+        lstTamanho = lista("lstTamanho", QStringLiteral("Tamanho:"));
+        chkSublinhado = new QCheckBox(QStringLiteral("&Sublinhado"), this);
+        chkSublinhado->setObjectName(QStringLiteral("chkSublinhado"));
+        chkTachado = new QCheckBox(QStringLiteral("&Tachado"), this);
+        chkTachado->setObjectName(QStringLiteral("chkTachado"));
+        lblExemplo = new QLabel(QStringLiteral("AaBbYyZz"), this);
+        lblExemplo->setObjectName(QStringLiteral("lblExemplo"));
+        lblExemplo->setAlignment(Qt::AlignCenter);
+        lblExemplo->setMinimumSize(200, 60);
+
+        QStringList familias;
+        for (const QString &f : QFontDatabase::families())
+            if (!QFontDatabase::isPrivateFamily(f) && (!soImpressao || QFontDatabase::isScalable(f)))
+                familias << f;
+        for (const Gemea &g : Gemeas)
+            if (familias.contains(QLatin1String(g.familia)) && !familias.contains(QLatin1String(g.nome)))
+                familias << QLatin1String(g.nome);
+        familias.sort(Qt::CaseInsensitive);
+        lstFonte->addItems(familias);
+        for (int t : QFontDatabase::standardSizes())
+            lstTamanho->addItem(QString::number(t));
+
+        auto *grade = new QGridLayout;
+        const std::tuple<const char *, QLineEdit *, QListWidget *> colunas[] = {
+            {"&Fonte:", txtFonte, lstFonte}, {"&Estilo da fonte:", txtEstilo, lstEstilo},
+            {"Ta&manho:", txtTamanho, lstTamanho}};
+        int c = 0;
+        for (const auto &[legenda, txt, lst] : colunas) {
+            auto *rot = new QLabel(QString::fromUtf8(legenda), this);
+            rot->setBuddy(txt);
+            QString nome = rot->text();
+            nome.remove(QLatin1Char('&'));
+            txt->setAccessibleName(nome);
+            grade->addWidget(rot, 0, c);
+            grade->addWidget(txt, 1, c);
+            grade->addWidget(lst, 2, c);
+            ++c;
+        }
+        grade->setColumnStretch(0, 3);
+        grade->setColumnStretch(1, 2);
+        grade->setColumnStretch(2, 1);
+        auto *efeitos = new QGroupBox(QStringLiteral("Efeitos"), this);
+        auto *lEfeitos = new QVBoxLayout(efeitos);
+        lEfeitos->addWidget(chkSublinhado);
+        lEfeitos->addWidget(chkTachado);
+        auto *exemplo = new QGroupBox(QStringLiteral("Exemplo"), this);
+        auto *lExemplo = new QVBoxLayout(exemplo);
+        lExemplo->addWidget(lblExemplo);
+        grade->addWidget(efeitos, 3, 0);
+        grade->addWidget(exemplo, 3, 1, 1, 2);
+        auto *btnOk = new QPushButton(QStringLiteral("&Ok"), this);
+        btnOk->setObjectName(QStringLiteral("btnOk"));
+        btnOk->setDefault(true);
+        auto *btnCancelar = new QPushButton(QStringLiteral("&Cancelar"), this);
+        btnCancelar->setObjectName(QStringLiteral("btnCancelar"));
+        connect(btnOk, &QPushButton::clicked, this, &QDialog::accept);
+        connect(btnCancelar, &QPushButton::clicked, this, &QDialog::reject);
+        auto *botoes = new QHBoxLayout;
+        botoes->addStretch(1);
+        botoes->addWidget(btnOk);
+        botoes->addWidget(btnCancelar);
+        auto *l = new QVBoxLayout(this);
+        l->addLayout(grade);
+        l->addLayout(botoes);
+
+        // The starting font: a name the system lacks stays in the box, with
+        // no entry chosen, until the user picks another family.
+        txtFonte->setText(m_fonte.Nome);
+        selecionarTexto(lstFonte, m_fonte.Nome);
+        txtTamanho->setText(textoTamanho(m_fonte.Tamanho));
+        selecionarTexto(lstTamanho, QString::number(m_fonte.Tamanho));
+        chkSublinhado->setChecked(m_fonte.Sublinhado);
+        chkTachado->setChecked(m_fonte.Tachado);
+        carregarEstilos();
+
+        connect(lstFonte, &QListWidget::currentTextChanged, this, [this](const QString &f) {
+            if (f.isEmpty())
+                return;
+            m_fonte.Nome = f;
+            txtFonte->setText(f);
+            carregarEstilos();
+        });
+        connect(txtFonte, &QLineEdit::textEdited, this, [this](const QString &t) {
+            selecionarTexto(lstFonte, t.trimmed());
+            if (!t.trimmed().isEmpty())
+                m_fonte.Nome = t.trimmed();
+            carregarEstilos();
+        });
+        connect(lstEstilo, &QListWidget::currentRowChanged, this, [this](int k) {
+            if (k < 0 || k >= m_estilos.size())
+                return;
+            m_fonte.Negrito = m_estilos[k].negrito;
+            m_fonte.Italico = m_estilos[k].italico;
+            txtEstilo->setText(m_estilos[k].legenda);
+            exibirExemplo();
+        });
+        connect(lstTamanho, &QListWidget::currentTextChanged, this, [this](const QString &t) {
+            if (t.isEmpty())
+                return;
+            m_fonte.Tamanho = t.toDouble();
+            txtTamanho->setText(t);
+            exibirExemplo();
+        });
+        connect(txtTamanho, &QLineEdit::textEdited, this, [this](const QString &t) {
+            bool ok = false;
+            const double v = QLocale().toDouble(t, &ok);
+            if (ok && v > 0) {
+                m_fonte.Tamanho = v;
+                selecionarTexto(lstTamanho, QString::number(v));
+                exibirExemplo();
+            }
+        });
+        for (QCheckBox *chk : {chkSublinhado, chkTachado})
+            connect(chk, &QCheckBox::toggled, this, [this] {
+                m_fonte.Sublinhado = chkSublinhado->isChecked();
+                m_fonte.Tachado = chkTachado->isChecked();
+                exibirExemplo();
+            });
+        txtFonte->setFocus();
+    }
+
+    FonteDialogo Escolhida() const { return m_fonte; }
+
+private:
+    QLineEdit *caixa(const char *nome)
+    {
+        auto *e = new QLineEdit(this);
+        e->setObjectName(QString::fromLatin1(nome));
+        return e;
+    }
+    QListWidget *lista(const char *nome, const QString &rotulo)
+    {
+        auto *l = new QListWidget(this);
+        l->setObjectName(QString::fromLatin1(nome));
+        l->setAccessibleName(rotulo);
+        return l;
+    }
+    static void selecionarTexto(QListWidget *l, const QString &texto)
+    {
+        const QSignalBlocker calado(l);
+        const QList<QListWidgetItem *> achados = l->findItems(texto, Qt::MatchFixedString);
+        l->setCurrentItem(achados.isEmpty() ? nullptr : achados.first());
+        if (achados.isEmpty())
+            l->clearSelection();
+        else
+            l->scrollToItem(achados.first());
+    }
+
+    void carregarEstilos()
+    {
+        m_estilos = estilosDe(familiaQueDesenha(m_fonte.Nome));
+        const QSignalBlocker calado(lstEstilo);
+        lstEstilo->clear();
+        int atual = 0;
+        for (int k = 0; k < m_estilos.size(); ++k) {
+            lstEstilo->addItem(m_estilos[k].legenda);
+            if (m_estilos[k].negrito == m_fonte.Negrito && m_estilos[k].italico == m_fonte.Italico)
+                atual = k;
+        }
+        lstEstilo->setCurrentRow(atual);
+        m_fonte.Negrito = m_estilos[atual].negrito;
+        m_fonte.Italico = m_estilos[atual].italico;
+        txtEstilo->setText(m_estilos[atual].legenda);
+        exibirExemplo();
+    }
+
+    void exibirExemplo()
+    {
+        QFont f(familiaQueDesenha(m_fonte.Nome));
+        f.setPointSizeF(qBound(1.0, m_fonte.Tamanho, 72.0));
+        f.setWeight(m_fonte.Negrito ? QFont::Bold : QFont::Normal);
+        f.setItalic(m_fonte.Italico);
+        f.setUnderline(m_fonte.Sublinhado);
+        f.setStrikeOut(m_fonte.Tachado);
+        lblExemplo->setFont(f);
+    }
+
+    FonteDialogo m_fonte;
+    QList<EstiloFonte> m_estilos;
+    QLineEdit *txtFonte, *txtEstilo, *txtTamanho;
+    QListWidget *lstFonte, *lstEstilo, *lstTamanho;
+    QCheckBox *chkSublinhado, *chkTachado;
+    QLabel *lblExemplo;
 };
 
 }  // namespace
@@ -125,35 +401,10 @@ int CommonDialogCls::PickColor(int corInicial, QWidget *dono)
 
 bool CommonDialogCls::GetFont(FonteDialogo &fonte, QWidget *dono, bool soImpressao)
 {
-    const QString nome = fonte.Nome.isEmpty() ? QStringLiteral("Arial") : fonte.Nome;
-    QFont inicial(nome);
-    inicial.setPointSizeF(fonte.Tamanho > 0 ? fonte.Tamanho : 10);
-    inicial.setWeight(fonte.Negrito ? QFont::Bold : QFont::Normal);
-    inicial.setItalic(fonte.Italico);
-    inicial.setUnderline(fonte.Sublinhado);
-    inicial.setStrikeOut(fonte.Tachado);
-    QFontDialog d(inicial, dono);
-    d.setOption(QFontDialog::ScalableFonts, soImpressao);
-    // A family that is not installed (Arial on most Linux systems) is matched
-    // to another one: the dialog shows the given name and keeps it unless
-    // the user picks another family.
-    const QString casada = d.currentFont().family();
-    if (casada != nome) {
-        for (QLineEdit *campo : d.findChildren<QLineEdit *>())
-            if (campo->text() == casada) {
-                campo->setText(nome);
-                break;
-            }
-    }
+    DialogoFonte d(fonte, soImpressao, dono);
     if (d.exec() != QDialog::Accepted)
         return false;
-    const QFont f = d.selectedFont();
-    fonte.Nome = f.family() == casada ? nome : f.family();
-    fonte.Tamanho = f.pointSizeF();
-    fonte.Negrito = f.weight() >= QFont::Bold;
-    fonte.Italico = f.italic();
-    fonte.Sublinhado = f.underline();
-    fonte.Tachado = f.strikeOut();
+    fonte = d.Escolhida();
     return true;
 }
 

@@ -39,9 +39,11 @@ public:
     // 0x00BBGGRR, or -1 when cancelled. The full dialog with the 16 custom
     // colour slots is shown, starting from `corInicial` (same encoding).
     static int PickColor(int corInicial, QWidget *dono);
-    // False when cancelled (`fonte` then unchanged). Bold is weight 700. A
-    // name the system lacks comes back unchanged unless another family is
-    // picked. `soImpressao`: only scalable fonts, the ones a printer draws.
+    // False when cancelled (`fonte` then unchanged). A name the system lacks
+    // comes back unchanged unless another family is picked; "Arial", "Times
+    // New Roman" and "Courier New" are offered with the styles of the family
+    // that draws them. `soImpressao`: only scalable fonts, the ones a
+    // printer draws.
     static bool GetFont(FonteDialogo &fonte, QWidget *dono, bool soImpressao = false);
 
     static int CorParaBGR(const QColor &c) { return c.red() | (c.green() << 8) | (c.blue() << 16); }

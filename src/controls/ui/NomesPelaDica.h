@@ -10,4 +10,8 @@ namespace lumeta {
 // every control whose tooltip is set later (the name follows the tooltip).
 void NomearPelaDica(QWidget *raiz);
 
+// From now on a list box given an accessible name is heard by that name, its
+// current entry being its value. Must run before the boxes are built.
+void NomearCaixasPeloNome();
+
 }  // namespace lumeta

@@ -21,14 +21,34 @@ NumeroCtl::NumeroCtl(QWidget *pai) : QWidget(pai), m_caixa(new QLineEdit(this))
     setFocusProxy(m_caixa);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(m_caixa->sizePolicy());
-    // Pastes and the Delete key change the text behind the rules' back.
+    // Pastes, drops, undo and the Delete key change the text behind the
+    // rules' back. What came in is typed again through the rules over what
+    // it replaced, so a paste keeps only the characters the keys accept.
     connect(m_caixa, &QLineEdit::textEdited, this, [this](const QString &t) {
         if (m_escrevendo)
             return;
-        m_regras.Texto = t;
-        m_regras.InicioSelecao = m_caixa->cursorPosition();
-        m_regras.TamanhoSelecao = 0;
-        const bool mudou = m_regras.TextoAlterado();
+        const QString antes = m_regras.Texto;
+        const double valorAntes = m_regras.Valor();
+        qsizetype inicio = 0;
+        while (inicio < antes.size() && inicio < t.size() && antes[inicio] == t[inicio])
+            ++inicio;
+        qsizetype fim = 0;
+        while (fim < antes.size() - inicio && fim < t.size() - inicio
+               && antes[antes.size() - 1 - fim] == t[t.size() - 1 - fim])
+            ++fim;
+        const QString entrou = t.mid(inicio, t.size() - inicio - fim);
+        bool mudou = true;
+        if (entrou.isEmpty()) {
+            m_regras.Texto = t;
+            m_regras.InicioSelecao = m_caixa->cursorPosition();
+            m_regras.TamanhoSelecao = 0;
+            mudou = m_regras.TextoAlterado();
+        } else {
+            m_regras.InicioSelecao = int(inicio);
+            m_regras.TamanhoSelecao = int(antes.size() - inicio - fim);
+            m_regras.Colar(entrou);
+            mudou = m_regras.Texto != antes || m_regras.Valor() != valorAntes;
+        }
         espelhar();
         if (mudou)
             emit Change();
@@ -151,7 +171,9 @@ bool NumeroCtl::eventFilter(QObject *obj, QEvent *e)
             espelhar();
             if (m_regras.Texto != textoAntes || m_regras.Valor() != antes)
                 emit Change();
-            return true;
+            // Escape also goes on to the dialog, which closes as from any
+            // other control.
+            return c != u'\x1b';
         }
         return true;
     }

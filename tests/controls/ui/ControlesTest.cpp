@@ -10,11 +10,11 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QFontDialog>
+#include <QCheckBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QTemporaryDir>
@@ -237,11 +237,12 @@ TEST(CommonDialogCls, FiltrosCoresEDialogosComAsOpcoesPedidas)
     EXPECT_EQ(QColorDialog::customCount(), 16);
 
     FonteDialogo fonte{QStringLiteral("Liberation Sans"), 12, true, false, true, false};
-    QuandoAbrir<QFontDialog>([](QFontDialog *d) {
-        EXPECT_EQ(d->currentFont().weight(), QFont::Bold);
-        EXPECT_TRUE(d->currentFont().underline());
-        EXPECT_EQ(d->currentFont().pointSize(), 12);
-        d->reject();
+    QuandoAbrir([](QWidget *d) {
+        EXPECT_EQ(d->findChild<QListWidget *>(QStringLiteral("lstEstilo"))->currentItem()->text(),
+                  QStringLiteral("Negrito"));
+        EXPECT_TRUE(d->findChild<QCheckBox *>(QStringLiteral("chkSublinhado"))->isChecked());
+        EXPECT_EQ(d->findChild<QLineEdit *>(QStringLiteral("txtTamanho"))->text(), QStringLiteral("12"));
+        static_cast<QDialog *>(d)->reject();
     });
     // Accepting keeps the name and size: FonteNaoInstaladaGuardaONomeAteOutraSerEscolhida.
     const FonteDialogo antes = fonte;
@@ -365,23 +366,37 @@ TEST(CommonDialogCls, FonteNaoInstaladaGuardaONomeAteOutraSerEscolhida)
 
     // Another family picked in the list replaces the name.
     FonteDialogo fonte{ausente, 10, false, false, false, false};
-    QString escolhida;
-    QuandoAbrir<QFontDialog>([&](QFontDialog *d) {
-        const QString casada = d->currentFont().family();
-        QListView *familias = d->findChild<QListView *>();
+    QuandoAbrir([&](QWidget *d) {
+        QListWidget *familias = d->findChild<QListWidget *>(QStringLiteral("lstFonte"));
         ASSERT_NE(familias, nullptr);
-        for (int r = 0; r < familias->model()->rowCount() && escolhida.isEmpty(); ++r) {
-            const QModelIndex i = familias->model()->index(r, 0);
-            if (i.data().toString() != casada) {
-                familias->setCurrentIndex(i);
-                escolhida = d->currentFont().family();
-            }
-        }
-        d->accept();
+        EXPECT_TRUE(familias->selectedItems().isEmpty());
+        familias->setCurrentRow(0);
+        static_cast<QDialog *>(d)->accept();
     });
     ASSERT_TRUE(CommonDialogCls::GetFont(fonte, nullptr));
-    ASSERT_FALSE(escolhida.isEmpty()) << "only one font family on this machine";
-    EXPECT_EQ(fonte.Nome, escolhida);
+    EXPECT_NE(fonte.Nome, ausente);
+}
+
+TEST(CommonDialogCls, NomesDosLayoutsComOsEstilosReaisDaFamiliaGemea)
+{
+    // The three names layouts use offer bold; the style comes back as chosen.
+    for (const auto &[nome, estilo] : {std::pair{"Arial", 2}, {"Times New Roman", 3}, {"Courier New", 1}}) {
+        FonteDialogo fonte{QString::fromLatin1(nome), 10, false, false, false, false};
+        QuandoAbrir([&](QWidget *d) {
+            auto *estilos = d->findChild<QListWidget *>(QStringLiteral("lstEstilo"));
+            QStringList legendas;
+            for (int k = 0; k < estilos->count(); ++k)
+                legendas << estilos->item(k)->text();
+            EXPECT_EQ(legendas, (QStringList{"Normal", "Itálico", "Negrito", "Negrito Itálico"})) << nome;
+            teste::ConferirNomesAcessiveis(d, {"Fonte:", "Estilo da fonte:", "Tamanho:", "Sublinhado", "Ok"});
+            estilos->setCurrentRow(estilo);
+            static_cast<QDialog *>(d)->accept();
+        });
+        ASSERT_TRUE(CommonDialogCls::GetFont(fonte, nullptr));
+        EXPECT_EQ(fonte.Nome, QString::fromLatin1(nome));
+        EXPECT_EQ(fonte.Negrito, estilo >= 2) << nome;
+        EXPECT_EQ(fonte.Italico, estilo % 2 == 1) << nome;
+    }
 }
 
 TEST(InterfaceUsuarioQt, BotoesDoQtEmPortuguesComAsTraducoesCarregadas)

@@ -1,4 +1,4 @@
-#include "dialogs/LigacaoDialogos.h"
+#include "app/gui/LigacaoDialogos.h"
 
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"

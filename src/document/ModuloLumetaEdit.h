@@ -6,7 +6,13 @@
 
 namespace lumeta {
 
-// The system's temporary folder, always ending in a separator.
+// The folder of the editor's temporary files (the exchange and the preview
+// file), ending in a separator: one only this user can enter. The user's
+// runtime folder (XDG_RUNTIME_DIR) when it is private; otherwise
+// "lumetaedit-<uid>" in the system's temporary folder (TMPDIR), or, when that
+// name is taken by anything but the user's private folder, the first free or
+// private one of a few numbered names. It is not made here: the first write
+// makes it (GravarArquivoPrivado), and refuses it when it is not private.
 QString PastaTemporaria();
 
 // The folder of the running program, ending in a separator.
@@ -21,7 +27,7 @@ QString CaminhoLongo(const QString &caminho);
 // The file name of a path: the text after its last separator ("/" or "\").
 QString NomeDoArquivo(const QString &caminho);
 
-// Names of the fixed files in the temporary folder.
+// Names of the fixed files in that folder.
 inline const QString NomeArquivoTransferencia = QStringLiteral("~TMP_LumetaEdit.clp");
 inline const QString NomeArquivoVisualizacao = QStringLiteral("Lumeta.tmp");
 

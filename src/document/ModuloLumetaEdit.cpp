@@ -43,6 +43,12 @@ QString PastaPrograma()
     return comSeparador(QCoreApplication::applicationDirPath());
 }
 
+QString PastaRecursos()
+{
+    const QString pasta = qEnvironmentVariable(VariavelPastaRecursos);
+    return pasta.isEmpty() ? PastaPrograma() : comSeparador(pasta);
+}
+
 QString CaminhoLongo(const QString &caminho)
 {
     if (caminho.isEmpty())

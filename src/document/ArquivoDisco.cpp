@@ -29,6 +29,27 @@ QByteArray nomeLocal(const QString &caminho)
     return NomeParaSistema(caminho);
 }
 
+// A folder or file of the private folder that another user could have put
+// there or could reach.
+ErroArquivo naoPrivado()
+{
+    return erro(70, "Permissão negada: a pasta temporária não é só deste usuário");
+}
+
+bool privada(const struct stat &st)
+{
+    return S_ISDIR(st.st_mode) && st.st_uid == ::geteuid() && (st.st_mode & 0777) == 0700;
+}
+
+// lstat() of "pasta/" would follow a link named pasta.
+QByteArray semBarraFinal(const QString &pasta)
+{
+    QByteArray n = nomeLocal(pasta);
+    while (n.size() > 1 && n.endsWith('/'))
+        n.chop(1);
+    return n;
+}
+
 // The length of the valid UTF-8 sequence at p (1 to 4), or 0.
 int sequenciaUtf8(const unsigned char *p, qsizetype resta)
 {
@@ -257,6 +278,67 @@ ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados
     return {};
 }
 
+bool PastaPrivada(const QString &pasta)
+{
+    struct stat st;
+    return ::lstat(semBarraFinal(pasta).constData(), &st) == 0 && privada(st);
+}
+
+ErroArquivo GravarArquivoPrivado(const QString &caminho, const QByteArray &dados)
+{
+    const QFileInfo fi(caminho);
+    if (caminho.isEmpty() || fi.fileName().isEmpty())
+        return ErroDoSistema(EINVAL);
+    const QByteArray pasta = semBarraFinal(fi.absolutePath());
+    const bool criada = ::mkdir(pasta.constData(), 0700) == 0;
+    if (!criada && errno != EEXIST)
+        return ErroDoSistema(errno, caminho);
+    // Everything below goes through the folder opened once, so it cannot be
+    // swapped for another between the check and the write.
+    const int dir = ::open(pasta.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (dir < 0)
+        return errno == ELOOP || errno == ENOTDIR ? naoPrivado() : ErroDoSistema(errno, caminho);
+    struct stat st;
+    int e = ::fstat(dir, &st) == 0 ? 0 : errno;
+    // The umask may have taken bits the owner needs from a folder just made.
+    if (!e && criada && st.st_uid == ::geteuid() && ::fchmod(dir, 0700) == 0)
+        st.st_mode = (st.st_mode & ~07777) | 0700;
+    if (!e && !privada(st)) {
+        ::close(dir);
+        return naoPrivado();
+    }
+    const QByteArray nome = nomeLocal(fi.fileName());
+    QByteArray temporario;
+    int fd = -1;
+    for (int tentativa = 0; !e && tentativa < 64 && fd < 0; ++tentativa) {
+        temporario = '.' + nome + '.' + QByteArray::number(QRandomGenerator::global()->generate(), 36);
+        fd = ::openat(dir, temporario.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC | O_NOCTTY,
+                      0600);
+        if (fd < 0 && errno != EEXIST)
+            e = errno;
+    }
+    if (!e && fd < 0)
+        e = EEXIST;
+    if (!e) {
+        e = escreverTudo(fd, dados);
+        if (!e && ::fsync(fd) != 0)
+            e = errno;
+        const int f = fechar(fd);
+        if (!e)
+            e = f;
+        // rename() replaces the name itself: a link there is dropped, its
+        // target never opened.
+        if (!e && ::renameat(dir, temporario.constData(), dir, nome.constData()) != 0)
+            e = errno;
+        if (e)
+            ::unlinkat(dir, temporario.constData(), 0);
+        else
+            ::fsync(dir);
+    }
+    ::close(dir);
+    return e ? ErroDoSistema(e, caminho) : ErroArquivo{};
+}
+
 ArquivoLeitura::~ArquivoLeitura()
 {
     if (m_fd >= 0)
@@ -265,20 +347,34 @@ ArquivoLeitura::~ArquivoLeitura()
 
 ErroArquivo ArquivoLeitura::Abrir(const QString &caminho)
 {
+    return abrir(caminho, false);
+}
+
+ErroArquivo ArquivoLeitura::AbrirPrivado(const QString &caminho)
+{
+    return abrir(caminho, true);
+}
+
+ErroArquivo ArquivoLeitura::abrir(const QString &caminho, bool privado)
+{
     m_caminho = caminho;
     const QByteArray nome = nomeLocal(caminho);
+    if (privado && !PastaPrivada(QFileInfo(caminho).absolutePath()))
+        return naoPrivado();
     // Looked at before opening: opening a device or a FIFO can itself wait or
-    // have effects.
+    // have effects. In the private folder a link is not followed.
     struct stat st;
-    if (::stat(nome.constData(), &st) != 0)
+    if ((privado ? ::lstat(nome.constData(), &st) : ::stat(nome.constData(), &st)) != 0)
         return ErroDoSistema(errno, caminho);
     if (!S_ISREG(st.st_mode))
         return acessoAoCaminho();
-    m_fd = ::open(nome.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (privado && st.st_uid != ::geteuid())
+        return naoPrivado();
+    m_fd = ::open(nome.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK | (privado ? O_NOFOLLOW : 0));
     if (m_fd < 0)
         return ErroDoSistema(errno, caminho);
     // The name may have been swapped for something else in between.
-    if (::fstat(m_fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    if (::fstat(m_fd, &st) != 0 || !S_ISREG(st.st_mode) || (privado && st.st_uid != ::geteuid())) {
         ::close(m_fd);
         m_fd = -1;
         return acessoAoCaminho();

@@ -34,6 +34,16 @@ ErroArquivo ErroDoSistema(int codigo, const QString &caminho = QString());
 // device, a socket or a FIFO nobody reads is refused.
 ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados);
 
+// Whether a folder is one only this user can enter: a real folder (not a
+// link to one), owned by the user, mode 0700.
+bool PastaPrivada(const QString &pasta);
+
+// Writes a file of the editor's private folder (the exchange and preview
+// files). The folder is made (mode 0700) when missing and refused when it is
+// not private; the contents go to a new file there that is then renamed over
+// the name, so a link planted in its place is replaced, never written through.
+ErroArquivo GravarArquivoPrivado(const QString &caminho, const QByteArray &dados);
+
 // A regular file opened for reading. Anything else (folder, device, FIFO,
 // socket) is refused before a byte is read, and no read goes past the size the
 // file had when it was opened, so memory stays bounded by that size.
@@ -45,11 +55,17 @@ public:
     ~ArquivoLeitura();
 
     ErroArquivo Abrir(const QString &caminho);
+    // A file of the private folder: a link in its place is not followed, and a
+    // file another user owns, or one in a folder that is not private, is
+    // refused before a byte is read.
+    ErroArquivo AbrirPrivado(const QString &caminho);
     qint64 Restante() const { return m_restante; }
     // Appends up to n bytes (fewer at the end of the file) to `destino`.
     ErroArquivo Ler(qint64 n, QByteArray &destino);
 
 private:
+    ErroArquivo abrir(const QString &caminho, bool privado);
+
     int m_fd = -1;
     qint64 m_restante = 0;
     QString m_caminho;

@@ -447,6 +447,18 @@ ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados)
     return r;
 }
 
+ResultadoArquivo GravarArquivoTemporario(const QString &caminho, const QByteArray &dados)
+{
+    ResultadoArquivo r;
+    if (const ErroArquivo e = GravarArquivoPrivado(caminho, dados)) {
+        r.ok = false;
+        r.numeroErro = e.numero;
+        r.descricaoErro = e.descricao;
+        r.mensagem = MensagemErroGravar(caminho, e.numero, e.descricao);
+    }
+    return r;
+}
+
 QByteArray GravarBandas(const QByteArray &marcador, const QList<Banda> &bandas)
 {
     qsizetype estimativa = marcador.size() + 2;

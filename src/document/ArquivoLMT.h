@@ -57,6 +57,8 @@ ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc);
 // Writes any file of the editor (see GravarArquivoAtomico) and words a failure
 // with the editor's save message.
 ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados);
+// The same for a file of the private temporary folder (GravarArquivoPrivado).
+ResultadoArquivo GravarArquivoTemporario(const QString &caminho, const QByteArray &dados);
 inline ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc)
 {
     return GravarArquivo(caminho, GravarLMT(doc));

@@ -1,8 +1,11 @@
 #include "document/ModuloLumetaEdit.h"
 
+#include "document/ArquivoDisco.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <unistd.h>
 
 namespace lumeta {
 
@@ -19,12 +22,31 @@ QString comSeparador(QString pasta)
 
 QString PastaTemporaria()
 {
-    return comSeparador(QDir::tempPath());
+    const QString execucao = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (QDir::isAbsolutePath(execucao) && PastaPrivada(execucao))
+        return comSeparador(QDir::cleanPath(execucao));
+    const QString base =
+        QDir(QDir::tempPath()).filePath(QStringLiteral("lumetaedit-") + QString::number(::geteuid()));
+    for (int i = 0; i < 10; ++i) {
+        const QString pasta = i == 0 ? base : base + QLatin1Char('-') + QString::number(i);
+        const QFileInfo info(pasta);
+        if ((!info.exists() && !info.isSymLink()) || PastaPrivada(pasta))
+            return comSeparador(pasta);
+    }
+    // Every name is taken by someone else: writes there are refused with a
+    // message, and nothing there is read.
+    return comSeparador(base);
 }
 
 QString PastaPrograma()
 {
     return comSeparador(QCoreApplication::applicationDirPath());
+}
+
+QString PastaRecursos()
+{
+    const QString pasta = qEnvironmentVariable(VariavelPastaRecursos);
+    return pasta.isEmpty() ? PastaPrograma() : comSeparador(pasta);
 }
 
 QString CaminhoLongo(const QString &caminho)

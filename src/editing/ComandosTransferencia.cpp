@@ -90,12 +90,13 @@ std::optional<QList<Banda>> LerAreaTransferencia(SessaoEdicao &s)
         avisar(s, MensagemTransferenciaVazia, TituloColar, Icone::Exclamacao);
         return std::nullopt;
     }
-    // Only a regular file is read, and never more than it holds: a device or
-    // a pipe in its place could block or never end.
+    // Only a regular file of the user's own is read, and never more than it
+    // holds: a device or a pipe in its place could block or never end, and a
+    // file someone else left there is not this user's copy.
     ArquivoLeitura f;
     QByteArray dados;
     QList<Banda> bandas;
-    const bool lido = !f.Abrir(s.ArquivoTransferencia) && !f.Ler(TamanhoMarcador, dados)
+    const bool lido = !f.AbrirPrivado(s.ArquivoTransferencia) && !f.Ler(TamanhoMarcador, dados)
         && dados == MarcadorTransferencia() && !f.Ler(f.Restante(), dados) && LerBandas(dados, TamanhoMarcador, bandas);
     if (!lido || bandas.isEmpty() || !std::all_of(bandas.cbegin(), bandas.cend(), bandaAceitavel)) {
         avisar(s, MensagemTransferenciaInvalida, TituloColar, Icone::Exclamacao);
@@ -113,7 +114,7 @@ bool mnuEditarCopiar(SessaoEdicao &s)
         avisar(s, arquivo + QStringLiteral("\n\n") + MensagemSubstituirTransferencia, QString(), Icone::Critico);
         return false;
     }
-    const ResultadoArquivo r = GravarArquivo(arquivo, GravarBandas(MarcadorTransferencia(), bandasCopiadas(s)));
+    const ResultadoArquivo r = GravarArquivoTemporario(arquivo, GravarBandas(MarcadorTransferencia(), bandasCopiadas(s)));
     if (!r.ok) {
         avisar(s, r.mensagem, QString(), Icone::Exclamacao);
         return false;

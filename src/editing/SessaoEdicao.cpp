@@ -349,6 +349,30 @@ void SessaoEdicao::abrir(const QString &caminho)
     }
 }
 
+void SessaoEdicao::ComandoExemplos(const QString &pasta)
+{
+    if (Ganchos.JanelaHabilitada && !Ganchos.JanelaHabilitada())
+        return;
+    const QString titulo = QStringLiteral("Exemplos");
+    if (!QFileInfo(pasta).isDir()) {
+        if (Ui)
+            Ui->Mensagem(pasta + QStringLiteral("\n\nNão foi possível encontrar a pasta dos exemplos acima!"), titulo,
+                         Icone::Exclamacao);
+        return;
+    }
+    if (!PerguntarSalvar(QStringLiteral("Abrir")))
+        return;
+    OpcoesArquivo op;
+    op.titulo = titulo;
+    op.filtro = FiltroLMT;
+    op.pastaInicial = pasta;
+    const QString arquivo = Ui ? Ui->ArquivoAbrir(op) : QString();
+    if (arquivo.isEmpty())
+        return;
+    NomeArquivoAnterior = NomeArquivo;
+    abrir(arquivo);
+}
+
 void SessaoEdicao::ComandoAbrir()
 {
     if (Ganchos.JanelaHabilitada && !Ganchos.JanelaHabilitada())

@@ -142,6 +142,9 @@ public:
     bool ComandoSalvar();
     bool ComandoSalvarComo();
     void ComandoAbrirRecente(int k);
+    // "Exemplos": the open dialog in the folder of the shipped examples; a
+    // missing folder is told, never passed over in silence.
+    void ComandoExemplos(const QString &pasta);
     void ComandoExcluirRecentes();
     // Re-reads the recent-file settings (stopping at the first empty one).
     void ArquivosRecentes();

@@ -143,7 +143,18 @@ QString PastaLinguagens()
 
 QString CaminhoLinguagem(const QString &nome)
 {
-    return QDir(PastaLinguagens()).filePath(nome + ExtensaoLinguagem);
+    const QDir pasta(PastaLinguagens());
+    const QString proprio = pasta.filePath(nome + ExtensaoLinguagem);
+    if (QFileInfo::exists(proprio))
+        return proprio;
+    // A file copied from a system that ignores letter case may be "NOME.LIN":
+    // the list shows it, so reading, saving and removing find it too. The
+    // name itself keeps its case, as the list gives it.
+    for (const QString &a : pasta.entryList({QStringLiteral("*") + ExtensaoLinguagem}, QDir::Files))
+        if (a.size() == nome.size() + ExtensaoLinguagem.size() && a.startsWith(nome, Qt::CaseSensitive)
+            && a.endsWith(ExtensaoLinguagem, Qt::CaseInsensitive))
+            return pasta.filePath(a);
+    return proprio;
 }
 
 bool LinguagemExiste(const QString &nome)
@@ -310,11 +321,15 @@ QString LegendaOpcaoLinguagem(int indice)
 
 bool AtualizarModelo(const QString &nome, LinguagemDef &def, int indice, const QString &texto, InterfaceUsuario *ui)
 {
-    // The editor shows line feeds; the file keeps the CR LF of the defaults.
-    QString novo = QString(texto).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    novo.replace(u'\n', QStringLiteral("\r\n"));
-    if (novo == ModeloDaOpcao(def, indice))
+    // The editor shows line feeds; the file keeps its own line ends: CR LF as
+    // the defaults have, or bare line feeds in a template written that way.
+    const QString &atual = ModeloDaOpcao(def, indice);
+    const auto soLF = [](QString t) { return t.replace(QStringLiteral("\r\n"), QStringLiteral("\n")); };
+    QString novo = soLF(texto);
+    if (novo == soLF(atual))
         return false;
+    if (atual.contains(QStringLiteral("\r\n")) || !atual.contains(u'\n'))
+        novo.replace(u'\n', QStringLiteral("\r\n"));
     LinguagemDef alterada = def;
     ModeloDaOpcao(alterada, indice) = novo;
     if (!SalvarLin(nome, alterada, ui))

@@ -38,7 +38,7 @@ QString LocalizarVisualizador()
 
 bool Visualizar(const QString &texto, const QString &arquivo, bool enviarEmail, InterfaceUsuario *ui)
 {
-    const ErroArquivo gravacao = GravarArquivoAtomico(arquivo, Para1252(texto));
+    const ErroArquivo gravacao = GravarArquivoPrivado(arquivo, Para1252(texto));
     if (gravacao) {
         ui->Mensagem(MensagemErroGravar(arquivo, gravacao.numero, gravacao.descricao), TituloVisualizar,
                      Icone::Exclamacao);

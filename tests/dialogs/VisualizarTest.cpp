@@ -133,7 +133,7 @@ TEST(Visualizar, AMissingViewerOrAnUnwritableFileIsReported)
     EXPECT_TRUE(ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu o erro número 70 ao tentar visualizar!\r\r")))
         << ui.mensagens[1].texto.toStdString();
 
-    s.ArquivoVisualizacao = tmp.filePath(QStringLiteral("sem-pasta/Lumeta.tmp"));
+    s.ArquivoVisualizacao = tmp.filePath(QStringLiteral("sem/pasta/Lumeta.tmp"));
     janela.Acao(QStringLiteral("mnuEditarVisualizar"))->trigger();
     ASSERT_EQ(ui.mensagens.size(), 3);
     EXPECT_TRUE(ui.mensagens[2].texto.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")

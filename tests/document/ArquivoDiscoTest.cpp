@@ -5,6 +5,7 @@
 #include "controls/ModuloAssociar.h"
 #include "document/ArquivoDisco.h"
 #include "document/ArquivoLMT.h"
+#include "document/ModuloLumetaEdit.h"
 #include "editing/SessaoEdicao.h"
 #include "output/CopiarComo.h"
 #include "output/Linguagem.h"
@@ -344,4 +345,114 @@ TEST(ArquivoDisco, NomesQueNaoSaoUtf8ChegamAoArquivo)
     EXPECT_TRUE(teste::LerArquivo(saida).startsWith("QJ 92"));
     // Qt cannot name this file to remove it with its folder.
     EXPECT_EQ(::unlink(bruto.constData()), 0);
+}
+
+namespace {
+
+// An environment variable set for one test and put back afterwards.
+class VariavelTemporaria {
+public:
+    VariavelTemporaria(const char *nome, const QString &valor)
+        : m_nome(nome), m_anterior(qgetenv(nome)), m_tinha(qEnvironmentVariableIsSet(nome))
+    {
+        if (valor.isNull())
+            qunsetenv(nome);
+        else
+            qputenv(nome, QFile::encodeName(valor));
+    }
+    ~VariavelTemporaria()
+    {
+        if (m_tinha)
+            qputenv(m_nome, m_anterior);
+        else
+            qunsetenv(m_nome);
+    }
+
+private:
+    const char *m_nome;
+    QByteArray m_anterior;
+    bool m_tinha;
+};
+
+bool Link(const QString &alvo, const QString &nome)
+{
+    return ::symlink(QFile::encodeName(alvo).constData(), QFile::encodeName(nome).constData()) == 0;
+}
+
+}  // namespace
+
+TEST(ArquivoDisco, ArquivosTemporariosSoNumaPastaPrivadaENuncaAtravesDeUmLink)
+{
+    QTemporaryDir raiz;
+    ASSERT_TRUE(raiz.isValid());
+    const VariavelTemporaria tmpdir("TMPDIR", raiz.path());
+    const VariavelTemporaria execucao("XDG_RUNTIME_DIR", QString());
+    const QString vitima = raiz.filePath(QStringLiteral("vitima"));
+    teste::GravarArquivoTeste(vitima, "original");
+
+    // The old attack: a link named like the preview file in the shared folder.
+    ASSERT_TRUE(Link(vitima, raiz.filePath(QStringLiteral("Lumeta.tmp"))));
+    // The folder's name taken by a link, by another user's folder and by a
+    // folder others can enter: each is passed over.
+    const QString base = raiz.filePath(QStringLiteral("lumetaedit-") + QString::number(::geteuid()));
+    ASSERT_TRUE(QDir().mkdir(raiz.filePath(QStringLiteral("alheia"))));
+    ASSERT_TRUE(Link(raiz.filePath(QStringLiteral("alheia")), base));
+    ASSERT_TRUE(QDir().mkdir(base + QStringLiteral("-1")));
+    ASSERT_EQ(::chmod(QFile::encodeName(base + QStringLiteral("-1")).constData(), 0700), 0);
+    if (::geteuid() == 0)
+        ASSERT_EQ(::chown(QFile::encodeName(base + QStringLiteral("-1")).constData(), 4321, 4321), 0);
+    else
+        ASSERT_EQ(::chmod(QFile::encodeName(base + QStringLiteral("-1")).constData(), 0711), 0);
+    ASSERT_TRUE(QDir().mkdir(base + QStringLiteral("-2")));
+    ASSERT_EQ(::chmod(QFile::encodeName(base + QStringLiteral("-2")).constData(), 0777), 0);
+    const QString pasta = PastaTemporaria();
+    EXPECT_EQ(pasta, base + QStringLiteral("-3/"));
+    for (const QString &outra : {base, base + QStringLiteral("-1"), base + QStringLiteral("-2")}) {
+        EXPECT_FALSE(PastaPrivada(outra)) << outra.toStdString();
+        EXPECT_EQ(GravarArquivoPrivado(outra + QStringLiteral("/Lumeta.tmp"), "novo").numero, 70);
+    }
+    EXPECT_TRUE(Entradas(raiz.filePath(QStringLiteral("alheia"))).isEmpty());
+
+    // The first write makes the folder, private, and a file only the user reads.
+    const QString previa = pasta + QStringLiteral("Lumeta.tmp");
+    ASSERT_FALSE(GravarArquivoPrivado(previa, "novo"));
+    struct stat st;
+    ASSERT_EQ(::lstat(QFile::encodeName(base + QStringLiteral("-3")).constData(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0700u);
+    ASSERT_EQ(::lstat(QFile::encodeName(previa).constData(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0600u);
+    EXPECT_EQ(teste::LerArquivo(previa), "novo");
+    // A link planted in the private folder itself is replaced, not followed.
+    ASSERT_TRUE(QFile::remove(previa));
+    ASSERT_TRUE(Link(vitima, previa));
+    ASSERT_FALSE(GravarArquivoPrivado(previa, "outro"));
+    EXPECT_FALSE(QFileInfo(previa).isSymLink());
+    EXPECT_EQ(teste::LerArquivo(previa), "outro");
+    EXPECT_EQ(teste::LerArquivo(vitima), "original");
+    EXPECT_TRUE(QFileInfo(raiz.filePath(QStringLiteral("Lumeta.tmp"))).isSymLink());
+    EXPECT_EQ(Entradas(pasta), QStringList{QStringLiteral("Lumeta.tmp")});
+
+    // Reading there: the user's own file only, never a link or another's file.
+    ArquivoLeitura proprio;
+    EXPECT_FALSE(proprio.AbrirPrivado(previa));
+    const QString link = pasta + QStringLiteral("link");
+    ASSERT_TRUE(Link(vitima, link));
+    ArquivoLeitura porLink;
+    EXPECT_TRUE(porLink.AbrirPrivado(link));
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(QFile::encodeName(previa).constData(), 4321, 4321), 0);
+        ArquivoLeitura alheio;
+        EXPECT_TRUE(alheio.AbrirPrivado(previa));
+    }
+
+    // The runtime folder is taken when it is private, and only then.
+    const QString runtime = raiz.filePath(QStringLiteral("run"));
+    ASSERT_TRUE(QDir().mkdir(runtime));
+    ASSERT_EQ(::chmod(QFile::encodeName(runtime).constData(), 0700), 0);
+    {
+        const VariavelTemporaria x("XDG_RUNTIME_DIR", runtime);
+        EXPECT_EQ(PastaTemporaria(), runtime + QLatin1Char('/'));
+        ASSERT_EQ(::chmod(QFile::encodeName(runtime).constData(), 0755), 0);
+        EXPECT_EQ(PastaTemporaria(), pasta);
+    }
 }

@@ -455,6 +455,7 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
     EXPECT_EQ(s.Documento.banda(1).Itens.last().Fonte, s.FontePadrao);
     EXPECT_EQ(std::make_pair(unidades, resultados), std::make_pair(4, 2));
 
+    s.ArquivoVisualizacao = cfg.Pasta() + QStringLiteral("/Lumeta.tmp");
     QFile previa(s.ArquivoVisualizacao);
     ASSERT_TRUE(previa.open(QIODevice::WriteOnly));
     previa.close();

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <random>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace lumeta;
 using Transferencia = lumeta::teste::SessaoMontada;
@@ -185,8 +186,26 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         }
     }
 
-    // Something that is not a regular file in its place: never read, never waited on.
+    // A good copy that another user owns, or reached through a link, is not
+    // this user's copy: refused unread and left as it is.
     s.Documento = antes;
+    GravarArquivoTeste(s.ArquivoTransferencia, bom);
+    const QByteArray nome = QFile::encodeName(s.ArquivoTransferencia);
+    struct stat st;
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(nome.constData(), 4321, 4321), 0);
+        recusado(Invalido, "de outro usuário");
+        ASSERT_EQ(::stat(nome.constData(), &st), 0);
+        EXPECT_EQ(st.st_uid, 4321u);
+        EXPECT_EQ(LerArquivo(s.ArquivoTransferencia), bom);
+    }
+    const QString boa = pasta.filePath(QStringLiteral("boa.clp"));
+    ASSERT_TRUE(QFile::rename(s.ArquivoTransferencia, boa));
+    ASSERT_EQ(::symlink(QFile::encodeName(boa).constData(), nome.constData()), 0);
+    recusado(Invalido, "link");
+    EXPECT_EQ(LerArquivo(boa), bom);
+
+    // Something that is not a regular file in its place: never read, never waited on.
     ASSERT_TRUE(QFile::remove(s.ArquivoTransferencia));
     ASSERT_EQ(mkfifo(QFile::encodeName(s.ArquivoTransferencia).constData(), 0600), 0);
     recusado(Invalido, "fifo");

@@ -1,6 +1,7 @@
 // The generated copybook compiled by a real COBOL compiler: a program that
 // includes it must write, byte for byte, the command file of the layout.
 #include "output/CopiarComo.h"
+#include "output/Linguagem.h"
 
 #include "document/Texto1252.h"
 #include "output/TextoComandos.h"
@@ -113,7 +114,7 @@ const auto item = teste::NovoItem;
 
 // Every item type, fonts that change, frame lines, a margin variable, a band
 // comment on both sides, long texts with accents, page breaks and options.
-LayoutDocumento layoutCompleto()
+LayoutDocumento layoutCompleto(const QString &antes, const QString &depois)
 {
     LayoutDocumento doc;
     doc.NomeImpressora = QStringLiteral("HP LaserJet 4");
@@ -144,9 +145,7 @@ LayoutDocumento layoutCompleto()
 
     Banda corpo;
     corpo.Deslocamento = -12;
-    corpo.Comentario = juntar({"           move \"01 Antes da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"})
-        + QChar(0xFF)
-        + juntar({"           move \"02 Depois da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"});
+    corpo.Comentario = antes + QChar(0xFF) + depois;
     Item fundo = item(TipoTexto, QStringLiteral("Cliente:"), 0, 64);
     fundo.CorFundo = 7;
     fundo.Fonte.Nome = QStringLiteral("Courier New");
@@ -218,11 +217,12 @@ Processo rodar(const QString &programa, const QStringList &args, const QString &
 
 // Compiles the program around the copybook and runs it; the command file it
 // wrote, or an explanation of what went wrong.
-QByteArray compilarERodar(const QString &cobc, const QString &pasta, const QString &copybook, QString *erro)
+QByteArray compilarERodar(const QString &cobc, const QString &pasta, const QString &copybook, QString *erro,
+                          const QByteArray &programa = kPrograma, const QString &saida = QStringLiteral("comandos.txt"))
 {
     teste::GravarArquivoTeste(pasta + QStringLiteral("/relatorio.cpy"), Para1252(copybook));
-    teste::GravarArquivoTeste(pasta + QStringLiteral("/relatorio.cbl"), QByteArray(kPrograma));
-    QFile::remove(pasta + QStringLiteral("/comandos.txt"));
+    teste::GravarArquivoTeste(pasta + QStringLiteral("/relatorio.cbl"), programa);
+    QFile::remove(pasta + QLatin1Char('/') + saida);
     const Processo c = rodar(cobc, {QStringLiteral("-x"), QStringLiteral("-o"), QStringLiteral("relatorio"),
                                     QStringLiteral("relatorio.cbl")}, pasta);
     if (c.codigo != 0 || !c.saida.isEmpty()) {
@@ -235,26 +235,18 @@ QByteArray compilarERodar(const QString &cobc, const QString &pasta, const QStri
         *erro += QStringLiteral("program: ") + QString::fromLocal8Bit(r.saida);
         return {};
     }
-    return teste::LerArquivo(pasta + QStringLiteral("/comandos.txt"));
+    return teste::LerArquivo(pasta + QLatin1Char('/') + saida);
 }
 
-}  // namespace
-
-TEST(CobolFimAFim, ProgramaCompiladoGravaOArquivoDeComandosDoLayout)
+// The command text of layoutCompleto() as the program writes it: the host's
+// data in place of a variable's name or a sample value, the text template's
+// geometry (left + 2, width - 4) for pictures and barcodes, no line for a
+// picture without text, and the band comment's lines "01 Antes da banda"
+// before the band's first command (its page break) and "02 Depois da banda"
+// after its last one.
+QStringList comandosDoPrograma(const LayoutDocumento &doc)
 {
-    const QString cobc = QStandardPaths::findExecutable(QStringLiteral("cobc"));
-    if (cobc.isEmpty())
-        GTEST_SKIP() << "cobc (GnuCOBOL) is not installed; tools/install-deps.sh installs it";
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-
-    const LayoutDocumento doc = layoutCompleto();
     const QStringList comandos = GerarTextoComandos(doc).split(kCRLF, Qt::SkipEmptyParts);
-
-    // Lines the program writes differently on purpose: the host's data in
-    // place of a variable's name or a sample value, and the text template's
-    // geometry (left + 2, width - 4) for pictures and barcodes. An empty
-    // replacement is a picture without text, which has no line in the code.
     const QMap<QString, QString> proprias = {
         {QStringLiteral("ME WS-MARGEM"), QStringLiteral("ME 012")},
         {QStringLiteral("T 009900066001160000100010WS-NOME"), QStringLiteral("T 009900066001160000100010Fulano de Tal")},
@@ -274,16 +266,31 @@ TEST(CobolFimAFim, ProgramaCompiladoGravaOArquivoDeComandosDoLayout)
          QStringLiteral("B0009900650000680000100010PDF417 com um texto comprido o bastante para passar da coluna 72")},
     };
     for (auto it = proprias.begin(); it != proprias.end(); ++it)
-        ASSERT_EQ(comandos.count(it.key()), 1) << it.key().toStdString();
+        EXPECT_EQ(comandos.count(it.key()), 1) << it.key().toStdString();
     QStringList esperado;
     for (const QString &linha : comandos)
         if (proprias.value(linha, linha) != QString())
             esperado.append(proprias.value(linha, linha));
-    // The band comment's code runs before the band's first command (its page
-    // break) and after its last one.
     const qsizetype qp = esperado.indexOf(QStringLiteral("QP"));
     esperado.insert(qp, QStringLiteral("01 Antes da banda"));
     esperado.insert(esperado.indexOf(QStringLiteral("QL"), qp) + 1, QStringLiteral("02 Depois da banda"));
+    return esperado;
+}
+
+}  // namespace
+
+TEST(CobolFimAFim, ProgramaCompiladoGravaOArquivoDeComandosDoLayout)
+{
+    const QString cobc = QStandardPaths::findExecutable(QStringLiteral("cobc"));
+    if (cobc.isEmpty())
+        GTEST_SKIP() << "cobc (GnuCOBOL) is not installed; tools/install-deps.sh installs it";
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+
+    const LayoutDocumento doc = layoutCompleto(
+        juntar({"           move \"01 Antes da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"}),
+        juntar({"           move \"02 Depois da banda~\" to WS-LINHA", "           perform GRAVA-SIMPLES"}));
+    const QStringList esperado = comandosDoPrograma(doc);
     const QByteArray bytesEsperados = Para1252(esperado.join(kCRLF) + kCRLF);
 
     // The lines that must equal the command text include every kind of them.
@@ -310,5 +317,70 @@ TEST(CobolFimAFim, ProgramaCompiladoGravaOArquivoDeComandosDoLayout)
         // Line by line, for a readable report when they differ.
         EXPECT_TRUE(saida == bytesEsperados);
         EXPECT_EQ(De1252(saida).split(kCRLF), De1252(bytesEsperados).split(kCRLF));
+    }
+}
+
+// The language that ships with the program, as a new user takes it: a
+// program declares what its "Definição das variáveis" says, COPYs the
+// copybook and writes the command file, line by line, with its own data.
+// A line sequential file drops the blanks that end a line ("E ").
+TEST(CobolFimAFim, LinguagemCobolDistribuidaCompilaEGravaOsComandos)
+{
+    const QString cobc = QStandardPaths::findExecutable(QStringLiteral("cobc"));
+    if (cobc.isEmpty())
+        GTEST_SKIP() << "cobc (GnuCOBOL) is not installed; tools/install-deps.sh installs it";
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    LinguagemDef ling;
+    const LeituraLin lida = LerArquivoLinguagem(QStringLiteral(LUMETA_DISTRIBUIDOS "/Cobol.lin"), ling);
+    ASSERT_EQ(lida.resultado, ResultadoLin::Ok) << lida.mensagem.toStdString();
+    ASSERT_TRUE(ling.EhCobol);
+
+    // The band comment as the comment editor's tool writes a variable line,
+    // inside an inline PERFORM: no generated statement may end its sentence.
+    const auto linha = [&](const char *comando) {
+        return QString(ling.ComandosSimples).replace(QStringLiteral("§c"), QString::fromUtf8(comando));
+    };
+    const LayoutDocumento doc =
+        layoutCompleto(QStringLiteral("           perform 1 times\r\n") + linha("01 Antes da banda"),
+                       linha("02 Depois da banda") + QStringLiteral("\r\n           end-perform"));
+    const QByteArray programa = "       identification division.\n"
+                                "       program-id. primeiro.\n"
+                                "       environment division.\n"
+                                "       input-output section.\n"
+                                "       file-control.\n"
+                                "           select ARQ-LUMETA assign to WS-LUMETA-ARQUIVO\n"
+                                "               organization is line sequential.\n"
+                                "       data division.\n"
+                                "       file section.\n"
+                                "       fd  ARQ-LUMETA.\n"
+                                "       01  REG-LUMETA pic x(2000).\n"
+                                "       working-storage section.\n"
+        + Para1252(ling.DefVariaveis) + "\n"
+        + "       01 ws-nome pic x(30) value \"Fulano de Tal\".\n"
+          "       01 ws-margem pic x(3) value \"012\".\n"
+          "       01 ws-foto pic x(9) value \"fundo.jpg\".\n"
+          "       01 ws-codigo pic x(8) value \"CODE-39X\".\n"
+          "       01 ws-barra pic x(2) value \"10\".\n"
+          "       procedure division.\n"
+          "           open output ARQ-LUMETA\n"
+          "           copy \"relatorio.cpy\".\n"
+          "           close ARQ-LUMETA\n"
+          "           stop run.\n";
+    QStringList esperado;
+    for (const QString &l : comandosDoPrograma(doc)) {
+        QString semFim = l;
+        while (semFim.endsWith(QLatin1Char(' ')))
+            semFim.chop(1);
+        esperado.append(semFim);
+    }
+    for (bool cobolString : {false, true}) {
+        SCOPED_TRACE(cobolString ? "STRING" : "continuacao");
+        ling.CobolString = cobolString;
+        QString erro;
+        const QByteArray saida = compilarERodar(cobc, dir.path(), GerarCopiarComo(doc, ling), &erro, programa,
+                                                QStringLiteral("relatorio.txt"));
+        EXPECT_TRUE(erro.isEmpty()) << erro.toStdString();
+        EXPECT_EQ(De1252(saida).split(QLatin1Char('\n')), esperado + QStringList{QString()});
     }
 }

@@ -241,6 +241,15 @@ TEST_F(PastaLinguagensTeste, NomesAdicionarListaEPasta)
     ASSERT_TRUE(QDir(pasta.Pasta()).mkdir(QStringLiteral("pasta.lin")));
     EXPECT_EQ(ListarLinguagens(true), (QStringList{"__", "alfa", "Beta", "meu_cobol", "Zeta"}));
     EXPECT_EQ(ListarLinguagens(false), (QStringList{"Beta", "Zeta", "__", "alfa", "meu_cobol"}));
+    // A file named in capitals, as copied from another system, is read and
+    // saved where it is.
+    EXPECT_TRUE(LerLinguagem(QStringLiteral("Beta"), def, &ui));
+    def.ComandoT = QStringLiteral("T");
+    EXPECT_TRUE(SalvarLin(QStringLiteral("Beta"), def, &ui));
+    EXPECT_EQ(lido("Beta.LIN"), CodificarLin(def));
+    EXPECT_FALSE(QFile::exists(caminho(QStringLiteral("Beta.lin"))));
+    EXPECT_FALSE(LerLinguagem(QStringLiteral("beta"), def, &ui));
+    mensagemUnica(QStringLiteral("O Arquivo '"), Icone::Exclamacao);
 
     EXPECT_EQ(PastaLinguagens(), pasta.Pasta());
     qunsetenv(VariavelPastaLinguagens);
@@ -258,6 +267,12 @@ TEST_F(PastaLinguagensTeste, ModeloGravadoSoQuandoMudaERemocaoPerguntaAntes)
     EXPECT_FALSE(QFile::exists(arquivo));
     EXPECT_TRUE(AtualizarModelo(QStringLiteral("C"), def, 5, QStringLiteral("faz(§c);\nfim;"), &ui));
     EXPECT_EQ(def.ComandosSimples, QStringLiteral("faz(§c);\r\nfim;"));
+    // A template written with bare line feeds keeps them, and is not rewritten
+    // when left as it was.
+    def.ComandoL = QStringLiteral("a\nb");
+    EXPECT_FALSE(AtualizarModelo(QStringLiteral("C"), def, 2, QStringLiteral("a\nb"), &ui));
+    EXPECT_TRUE(AtualizarModelo(QStringLiteral("C"), def, 2, QStringLiteral("a\nc"), &ui));
+    EXPECT_EQ(def.ComandoL, QStringLiteral("a\nc"));
     const QByteArray gravado = lido("C.lin");
     EXPECT_EQ(gravado, CodificarLin(def));
 

@@ -1,6 +1,7 @@
 #include "app/gui/frmLumetaEdit.h"
 
 #include "app/gui/Autor.h"
+#include "app/gui/JanelaAjuda.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
@@ -450,14 +451,14 @@ void frmLumetaEdit::criarMenuAjuda()
     mnuAjuda->setObjectName(QStringLiteral("mnuAjuda"));
     mnuAjuda->menuAction()->setObjectName(QStringLiteral("mnuAjuda"));
     connect(item(mnuAjuda, QStringLiteral("mnuAjudaConteudo"), QStringLiteral("&Conteúdo")), &QAction::triggered, this,
-            [this] { abrirAjuda(PastaPrograma() + QStringLiteral("Leia-me.doc"), true); });
+            [this] { AbrirDocumentoAjuda(this, m_sessao.Ui, PastaRecursos() + DocumentoConteudo); });
     connect(item(mnuAjuda, QStringLiteral("mnuAjudaTutorial"), QStringLiteral("&Tutorial")), &QAction::triggered, this,
-            [this] { abrirAjuda(PastaPrograma() + QStringLiteral("Tutorial LumetaEdit.doc"), true); });
+            [this] { AbrirDocumentoAjuda(this, m_sessao.Ui, PastaRecursos() + DocumentoTutorial); });
     mnuAjuda->addSeparator();
     connect(item(mnuAjuda, QStringLiteral("mnuAjudaExemplo"), QStringLiteral("&Exemplos")), &QAction::triggered, this,
-            [this] { abrirAjuda(EnderecoExemplos, false); });
+            [this] { m_sessao.ComandoExemplos(PastaRecursos() + PastaExemplos); });
     connect(item(mnuAjuda, QStringLiteral("mnuAjudaAtualizar"), QStringLiteral("&Atualizar")), &QAction::triggered, this,
-            [this] { abrirAjuda(EnderecoAtualizar, false); });
+            [this] { abrirAjuda(EnderecoAtualizar); });
     mnuAjuda->addSeparator();
     connect(item(mnuAjuda, QStringLiteral("mnuAjudaAutor"), QStringLiteral("&Sobre...")), &QAction::triggered, this,
             [this] {
@@ -954,9 +955,10 @@ void frmLumetaEdit::escolherFontePadrao()
     m_sessao.DefinirFontePadrao(d->Nome, d->Tamanho, d->Negrito, d->Italico, d->Sublinhado, d->Tachado);
 }
 
-void frmLumetaEdit::abrirAjuda(const QString &alvo, bool arquivo)
+void frmLumetaEdit::abrirAjuda(const QString &endereco)
 {
-    QDesktopServices::openUrl(arquivo ? QUrl::fromLocalFile(alvo) : QUrl(alvo));
+    if (!QDesktopServices::openUrl(QUrl(endereco)) && m_sessao.Ui)
+        m_sessao.Ui->Mensagem(MensagemDocumentoAjuda(endereco), TituloAjuda, Icone::Exclamacao);
 }
 
 // --- shut-down ---------------------------------------------------------------------

@@ -30,7 +30,6 @@ class TabCtl;
 class XPButtonCtl;
 
 // Addresses of the maker's site opened by the Help menu and the about box.
-inline const QString EnderecoExemplos = QStringLiteral("https://www.tavrosk.com.br/lumeta/exemplos");
 inline const QString EnderecoAtualizar = QStringLiteral("https://www.tavrosk.com.br/lumeta/download");
 inline const QString EnderecoSite = QStringLiteral("https://www.tavrosk.com.br/lumeta");
 inline const QString EmailAutor = QStringLiteral("lumeta@tavrosk.com.br");
@@ -112,7 +111,7 @@ private:
     void copiarComo(const QString &linguagem);
     void copiarComandos();
     void escolherFontePadrao();
-    void abrirAjuda(const QString &alvo, bool arquivo);
+    void abrirAjuda(const QString &endereco);
     void encerrar();
 
     SessaoEdicao m_sessao;

@@ -1,0 +1,84 @@
+// The Help menu: the shipped manual and tutorial in the program's own help
+// window, the shipped example layouts, and a word for whatever is missing.
+#include "app/gui/JanelaAjuda.h"
+#include "app/gui/frmLumetaEdit.h"
+#include "document/ArquivoLMT.h"
+#include "document/ModuloLumetaEdit.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <gtest/gtest.h>
+
+using namespace lumeta;
+
+namespace {
+
+const QString Distribuidos = QStringLiteral(LUMETA_DISTRIBUIDOS);
+
+void ApontarRecursos(const QString &pasta)
+{
+    qputenv(VariavelPastaRecursos, QFile::encodeName(pasta));
+}
+
+}  // namespace
+
+TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
+{
+    teste::ConfigTemporaria cfg;
+    teste::InterfaceRoteirizada ui;
+    ApontarRecursos(Distribuidos);
+    frmLumetaEdit janela(&ui);
+    ASSERT_TRUE(janela.Iniciar({}));
+    janela.show();
+
+    // "Conteúdo": the manual, in one help window that "Tutorial" reuses.
+    janela.Acao(QStringLiteral("mnuAjudaConteudo"))->trigger();
+    auto *ajuda = janela.findChild<JanelaAjuda *>();
+    ASSERT_TRUE(ajuda);
+    EXPECT_TRUE(ajuda->isVisible());
+    QTextBrowser *texto = ajuda->Navegador();
+    EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Os marcadores \"§\"")));
+    janela.Acao(QStringLiteral("mnuAjudaTutorial"))->trigger();
+    EXPECT_EQ(janela.findChildren<JanelaAjuda *>().size(), 1);
+    EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
+    // The documents link to each other, and "Voltar" goes back.
+    texto->setSource(QUrl(QStringLiteral("Leia-me.html#marcadores")));
+    EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Campos do programa e aspas")));
+    auto *voltar = ajuda->findChild<QPushButton *>(QStringLiteral("btnVoltar"));
+    ASSERT_TRUE(voltar && voltar->isEnabled());
+    voltar->click();
+    EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+
+    // "Exemplos": the open dialog in the examples' folder; every example
+    // opens as a layout of several bands.
+    const QString exemplos = Distribuidos + QStringLiteral("/exemplos");
+    const QStringList arquivos = QDir(exemplos).entryList({QStringLiteral("*.lmt")}, QDir::Files);
+    EXPECT_EQ(arquivos.size(), 3);
+    for (const QString &a : arquivos) {
+        ui.arquivos = {exemplos + QLatin1Char('/') + a};
+        janela.Acao(QStringLiteral("mnuAjudaExemplo"))->trigger();
+        EXPECT_EQ(ui.dialogos.last().pastaInicial, exemplos);
+        EXPECT_EQ(janela.Sessao().NomeArquivo, exemplos + QLatin1Char('/') + a);
+        EXPECT_GE(janela.Sessao().Documento.NumBandas(), 3) << a.toStdString();
+        EXPECT_FALSE(janela.Sessao().Alterado);
+    }
+    EXPECT_TRUE(ui.mensagens.isEmpty());
+
+    // Nothing shipped where the program looks: a message each, never silence.
+    QTemporaryDir vazia;
+    ApontarRecursos(vazia.path());
+    janela.Acao(QStringLiteral("mnuAjudaConteudo"))->trigger();
+    janela.Acao(QStringLiteral("mnuAjudaExemplo"))->trigger();
+    ASSERT_EQ(ui.mensagens.size(), 2);
+    EXPECT_EQ(ui.mensagens[0].texto, MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo));
+    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Ajuda"));
+    EXPECT_EQ(ui.mensagens[1].texto, PastaRecursos() + PastaExemplos
+                                         + QStringLiteral("\n\nNão foi possível encontrar a pasta dos exemplos acima!"));
+    qunsetenv(VariavelPastaRecursos);
+}

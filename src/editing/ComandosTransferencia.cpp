@@ -109,11 +109,15 @@ bool mnuEditarCopiar(SessaoEdicao &s)
     if (s.Ganchos.EsvaziarAreaTransferencia)
         s.Ganchos.EsvaziarAreaTransferencia();
     const QString &arquivo = s.ArquivoTransferencia;
-    if (QFileInfo::exists(arquivo) && !QFile::remove(arquivo)) {
+    const QList<Banda> bandas = bandasCopiadas(s);
+    // What a paste could not read back replaces nothing.
+    ResultadoArquivo r = VerificarLimites(arquivo, bandas);
+    if (r.ok && QFileInfo::exists(arquivo) && !QFile::remove(arquivo)) {
         avisar(s, arquivo + QStringLiteral("\n\n") + MensagemSubstituirTransferencia, QString(), Icone::Critico);
         return false;
     }
-    const ResultadoArquivo r = GravarArquivo(arquivo, GravarBandas(MarcadorTransferencia(), bandasCopiadas(s)));
+    if (r.ok)
+        r = GravarArquivo(arquivo, GravarBandas(MarcadorTransferencia(), bandas));
     if (!r.ok) {
         avisar(s, r.mensagem, QString(), Icone::Exclamacao);
         return false;
@@ -130,7 +134,7 @@ void mnuEditarRecortar(SessaoEdicao &s)
 void mnuEditarColarBanda(SessaoEdicao &s)
 {
     const std::optional<QList<Banda>> bandas = LerAreaTransferencia(s);
-    if (!bandas)
+    if (!bandas || !CabemBandas(s, bandas->size(), TituloColar))
         return;
     LayoutDocumento &doc = s.Documento;
     const bool noFim = s.CliqueAbaixoDaUltimaBanda;
@@ -158,6 +162,11 @@ void mnuEditarColarItem(SessaoEdicao &s)
 {
     const std::optional<QList<Banda>> bandas = LerAreaTransferencia(s);
     if (!bandas)
+        return;
+    qsizetype novos = 0;
+    for (const Banda &b : *bandas)
+        novos += b.Itens.size();
+    if (!CabemItens(s, s.BandaSelecionada, novos, TituloColar))
         return;
     LimparFaixa(s);
     const int banda = s.BandaSelecionada;

@@ -1,6 +1,11 @@
+#include "document/ArquivoLMT.h"
+#include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
+#include "editing/ComandosItem.h"
 #include "editing/ComandosTransferencia.h"
 #include "editing/SessaoMontada.h"
+
+#include <functional>
 
 using namespace lumeta;
 using BandaMenu = lumeta::teste::SessaoMontada;
@@ -206,4 +211,65 @@ TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
     s.Documento.QuebraPaginaFinal = true;
     EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
     EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+}
+
+TEST_F(BandaMenu, NoLimiteDoArquivoOsComandosQueCrescemRecusamENadaMudam)
+{
+    Montar({{64}, {1}});
+    Selecionar(1, 1);
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    s.Config.MagicItem = true;
+    LayoutDocumento &d = s.Documento;
+    // As many bands as the file counts, then as many items in band 1.
+    d.Bandas.insert(2, MaximoBandas - 2, d.banda(2));
+    Reposicionar();
+    const auto fundo = [&] { return d.banda(d.NumBandas()).Topo + 18; };
+    const auto magico = [&](int x, int y) {
+        MoverMagico(s, x, y, true);
+        CliqueMagico(s);
+    };
+    struct Caso {
+        const char *nome;
+        std::function<void()> comando;
+        QString titulo;
+    };
+    const Caso bandas[] = {
+        {"band add", [&] { mnuEditarBandaAdicionar(s); }, TituloAdicionarBanda},
+        {"band insert", [&] { mnuEditarBandaInserir(s); }, TituloInserirBanda},
+        {"band duplicate", [&] { mnuEditarBandaDuplicar(s); }, TituloDuplicarBanda},
+        {"paste bands", [&] { mnuEditarColarBanda(s); }, TituloColar},
+        {"magic band", [&] { magico(100, fundo() + 40); }, TituloAdicionarBanda},
+    };
+    const auto recusados = [&](const auto &casos, const QString &mensagem) {
+        const LayoutDocumento antes = d;
+        for (const Caso &c : casos) {
+            ui.mensagens.clear();
+            c.comando();
+            ASSERT_EQ(ui.mensagens.size(), 1) << c.nome;
+            EXPECT_EQ(ui.mensagens[0].texto, mensagem) << c.nome;
+            EXPECT_EQ(ui.mensagens[0].titulo, c.titulo) << c.nome;
+            EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao) << c.nome;
+            EXPECT_TRUE(d == antes) << c.nome;
+        }
+    };
+    recusados(bandas, QStringLiteral("O layout já tem o máximo de 32767 bandas!"));
+
+    d.banda(1).Itens.insert(1, MaximoItens - 1, d.banda(2).Itens[0]);
+    d.ReposicionarItem(1);
+    const Caso itens[] = {
+        {"item add", [&] { mnuEditarItemAdicionar(s); }, TituloAdicionarItem},
+        {"item insert", [&] { mnuEditarItemInserir(s); }, TituloInserirItem},
+        {"item duplicate", [&] { mnuEditarItemDuplicar(s); }, TituloDuplicarItem},
+        {"paste items", [&] { mnuEditarColarItem(s); }, TituloColar},
+        {"magic item", [&] { magico(64 + MaximoItens + 100, 20); }, TituloAdicionarItem},
+    };
+    recusados(itens, QStringLiteral("A banda já tem o máximo de 32767 itens!"));
+
+    // What the commands kept is a file the editor reads back.
+    const QString cheio = pasta.filePath(QStringLiteral("cheio.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(cheio, d).ok);
+    LayoutDocumento lido;
+    ASSERT_TRUE(AbrirArquivoLMT(cheio, lido).ok);
+    EXPECT_EQ(lido.NumBandas(), MaximoBandas);
+    EXPECT_EQ(lido.banda(1).NumItens(), MaximoItens);
 }

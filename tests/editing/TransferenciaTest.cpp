@@ -267,3 +267,19 @@ TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
     }
     EXPECT_EQ(desfeitos, 12);
 }
+
+TEST_F(Transferencia, CopiaQueUmaColagemNaoLeriaNaoSubstituiAAnterior)
+{
+    Montar({{64}});
+    Selecionar(1, 1);
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    const QByteArray anterior = LerArquivo(s.ArquivoTransferencia);
+    s.Documento.banda(1).Itens[0].Texto = QString(MaximoTexto + 1, QLatin1Char('x'));
+    ui.mensagens.clear();
+    EXPECT_FALSE(mnuEditarCopiar(s));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto,
+              QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + s.ArquivoTransferencia
+                  + QStringLiteral("!\n\n6 - Estouro de capacidade (o item 1 da banda 1 passa de 65535 bytes)"));
+    EXPECT_EQ(LerArquivo(s.ArquivoTransferencia), anterior);
+}

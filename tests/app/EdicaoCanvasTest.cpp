@@ -6,7 +6,9 @@
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QMenu>
 #include <QTest>
 #include <gtest/gtest.h>
 

@@ -6,6 +6,7 @@
 #include "editing/SessaoMontada.h"
 
 #include <functional>
+#include <vector>
 
 using namespace lumeta;
 using BandaMenu = lumeta::teste::SessaoMontada;
@@ -220,50 +221,40 @@ TEST_F(BandaMenu, NoLimiteDoArquivoOsComandosQueCrescemRecusamENadaMudam)
     ASSERT_TRUE(mnuEditarCopiar(s));
     s.Config.MagicItem = true;
     LayoutDocumento &d = s.Documento;
-    // As many bands as the file counts, then as many items in band 1.
     d.Bandas.insert(2, MaximoBandas - 2, d.banda(2));
     Reposicionar();
-    const auto fundo = [&] { return d.banda(d.NumBandas()).Topo + 18; };
     const auto magico = [&](int x, int y) {
         MoverMagico(s, x, y, true);
         CliqueMagico(s);
     };
-    struct Caso {
-        const char *nome;
-        std::function<void()> comando;
-        QString titulo;
-    };
-    const Caso bandas[] = {
-        {"band add", [&] { mnuEditarBandaAdicionar(s); }, TituloAdicionarBanda},
-        {"band insert", [&] { mnuEditarBandaInserir(s); }, TituloInserirBanda},
-        {"band duplicate", [&] { mnuEditarBandaDuplicar(s); }, TituloDuplicarBanda},
-        {"paste bands", [&] { mnuEditarColarBanda(s); }, TituloColar},
-        {"magic band", [&] { magico(100, fundo() + 40); }, TituloAdicionarBanda},
-    };
-    const auto recusados = [&](const auto &casos, const QString &mensagem) {
+    using Casos = std::vector<std::pair<std::function<void()>, QString>>;
+    const auto recusados = [&](const Casos &casos, const QString &mensagem) {
         const LayoutDocumento antes = d;
-        for (const Caso &c : casos) {
+        for (const auto &[comando, titulo] : casos) {
             ui.mensagens.clear();
-            c.comando();
-            ASSERT_EQ(ui.mensagens.size(), 1) << c.nome;
-            EXPECT_EQ(ui.mensagens[0].texto, mensagem) << c.nome;
-            EXPECT_EQ(ui.mensagens[0].titulo, c.titulo) << c.nome;
-            EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao) << c.nome;
-            EXPECT_TRUE(d == antes) << c.nome;
+            comando();
+            ASSERT_EQ(ui.mensagens.size(), 1) << titulo.toStdString();
+            EXPECT_EQ(ui.mensagens[0].texto, mensagem);
+            EXPECT_EQ(ui.mensagens[0].titulo, titulo);
+            EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
+            EXPECT_TRUE(d == antes) << titulo.toStdString();
         }
     };
-    recusados(bandas, QStringLiteral("O layout já tem o máximo de 32767 bandas!"));
+    recusados({{[&] { mnuEditarBandaAdicionar(s); }, TituloAdicionarBanda},
+               {[&] { mnuEditarBandaInserir(s); }, TituloInserirBanda},
+               {[&] { mnuEditarBandaDuplicar(s); }, TituloDuplicarBanda},
+               {[&] { mnuEditarColarBanda(s); }, TituloColar},
+               {[&] { magico(100, d.banda(MaximoBandas).Topo + 60); }, TituloAdicionarBanda}},
+              QStringLiteral("O layout já tem o máximo de 32767 bandas!"));
 
     d.banda(1).Itens.insert(1, MaximoItens - 1, d.banda(2).Itens[0]);
     d.ReposicionarItem(1);
-    const Caso itens[] = {
-        {"item add", [&] { mnuEditarItemAdicionar(s); }, TituloAdicionarItem},
-        {"item insert", [&] { mnuEditarItemInserir(s); }, TituloInserirItem},
-        {"item duplicate", [&] { mnuEditarItemDuplicar(s); }, TituloDuplicarItem},
-        {"paste items", [&] { mnuEditarColarItem(s); }, TituloColar},
-        {"magic item", [&] { magico(64 + MaximoItens + 100, 20); }, TituloAdicionarItem},
-    };
-    recusados(itens, QStringLiteral("A banda já tem o máximo de 32767 itens!"));
+    recusados({{[&] { mnuEditarItemAdicionar(s); }, TituloAdicionarItem},
+               {[&] { mnuEditarItemInserir(s); }, TituloInserirItem},
+               {[&] { mnuEditarItemDuplicar(s); }, TituloDuplicarItem},
+               {[&] { mnuEditarColarItem(s); }, TituloColar},
+               {[&] { magico(64 + MaximoItens + 100, 20); }, TituloAdicionarItem}},
+              QStringLiteral("A banda já tem o máximo de 32767 itens!"));
 
     // What the commands kept is a file the editor reads back.
     const QString cheio = pasta.filePath(QStringLiteral("cheio.lmt"));

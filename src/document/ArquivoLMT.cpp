@@ -280,8 +280,9 @@ LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
     l.bytes(kTamanhoCabecalho);
     LayoutDocumento doc;
     try {
+        // An open layout always has a band: one without any is damaged.
         const int16_t numBandas = l.i16();
-        if (numBandas < 0 || numBandas > l.restante() / kMinBanda)
+        if (numBandas < 1 || numBandas > l.restante() / kMinBanda)
             throw Corrompido{};
         doc.Bandas.reserve(numBandas);
         Repetidos repetidos;
@@ -457,6 +458,81 @@ ResultadoArquivo GravarArquivoTemporario(const QString &caminho, const QByteArra
         r.mensagem = MensagemErroGravar(caminho, e.numero, e.descricao);
     }
     return r;
+}
+
+namespace {
+
+QString estouro(const QString &oque)
+{
+    return QStringLiteral("Estouro de capacidade (") + oque + QLatin1Char(')');
+}
+
+QString textoLongo(const QString &qual)
+{
+    return estouro(qual + QStringLiteral(" passa de %1 bytes").arg(MaximoTexto));
+}
+
+ResultadoArquivo recusaLimites(const QString &caminho, const QString &excesso)
+{
+    ResultadoArquivo r;
+    if (excesso.isEmpty())
+        return r;
+    r.ok = false;
+    r.numeroErro = ErroEstouro;
+    r.descricaoErro = excesso;
+    r.mensagem = MensagemErroGravar(caminho, ErroEstouro, excesso);
+    return r;
+}
+
+}  // namespace
+
+QString ExcessoLimites(const QList<Banda> &bandas)
+{
+    if (bandas.size() > MaximoBandas)
+        return estouro(QStringLiteral("mais de %1 bandas").arg(MaximoBandas));
+    for (qsizetype b = 0; b < bandas.size(); ++b) {
+        const Banda &banda = bandas[b];
+        if (banda.Itens.size() > MaximoItens)
+            return estouro(QStringLiteral("a banda %1 tem mais de %2 itens").arg(b + 1).arg(MaximoItens));
+        if (banda.Comentario.size() > MaximoTexto)
+            return textoLongo(QStringLiteral("o comentário da banda %1").arg(b + 1));
+        for (qsizetype i = 0; i < banda.Itens.size(); ++i) {
+            const Item &it = banda.Itens[i];
+            if (it.Texto.size() > MaximoTexto || it.Fonte.Nome.size() > MaximoTexto)
+                return textoLongo(QStringLiteral("o item %1 da banda %2").arg(i + 1).arg(b + 1));
+        }
+    }
+    return QString();
+}
+
+QString ExcessoLimites(const LayoutDocumento &doc)
+{
+    const QString bandas = ExcessoLimites(doc.Bandas);
+    if (!bandas.isEmpty())
+        return bandas;
+    if (doc.Quebras.size() > MaximoBandas)
+        return estouro(QStringLiteral("mais de %1 quebras de página").arg(MaximoBandas));
+    for (const QString *t : {&doc.NomeImpressora, &doc.TextoEmail, &doc.MargemEsquerda, &doc.MargemSuperior,
+                             &doc.MargemInferior})
+        if (t->size() > MaximoTexto)
+            return textoLongo(QStringLiteral("um texto das opções do layout"));
+    return QString();
+}
+
+ResultadoArquivo VerificarLimites(const QString &caminho, const QList<Banda> &bandas)
+{
+    return recusaLimites(caminho, ExcessoLimites(bandas));
+}
+
+ResultadoArquivo VerificarLimites(const QString &caminho, const LayoutDocumento &doc)
+{
+    return recusaLimites(caminho, ExcessoLimites(doc));
+}
+
+ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc)
+{
+    const ResultadoArquivo r = VerificarLimites(caminho, doc);
+    return r.ok ? GravarArquivo(caminho, GravarLMT(doc)) : r;
 }
 
 QByteArray GravarBandas(const QByteArray &marcador, const QList<Banda> &bandas)

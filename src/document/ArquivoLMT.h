@@ -59,9 +59,19 @@ ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc);
 ResultadoArquivo GravarArquivo(const QString &caminho, const QByteArray &dados);
 // The same for a file of the private temporary folder (GravarArquivoPrivado).
 ResultadoArquivo GravarArquivoTemporario(const QString &caminho, const QByteArray &dados);
-inline ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc)
-{
-    return GravarArquivo(caminho, GravarLMT(doc));
-}
+
+// The error number of a layout or band list past what the file can hold.
+inline constexpr int ErroEstouro = 6;
+// Why bands or a layout cannot be written so that they read back (a count
+// or a text past the file's limits); empty when they can.
+QString ExcessoLimites(const QList<Banda> &bandas);
+QString ExcessoLimites(const LayoutDocumento &doc);
+// ExcessoLimites worded as a failed save of caminho; ok when nothing exceeds.
+ResultadoArquivo VerificarLimites(const QString &caminho, const QList<Banda> &bandas);
+ResultadoArquivo VerificarLimites(const QString &caminho, const LayoutDocumento &doc);
+
+// Refuses a layout past the limits before anything is written, so the old
+// file stays as it was.
+ResultadoArquivo GravarArquivoLMT(const QString &caminho, const LayoutDocumento &doc);
 
 }  // namespace lumeta

@@ -21,6 +21,12 @@ inline int32_t Limitar32(int64_t v)
 // The extent of a height that may be stored negated (automatic), |INT32_MIN| included.
 inline int32_t Magnitude(int32_t v) { return Limitar32(v < 0 ? -int64_t(v) : int64_t(v)); }
 
+// What the file can hold: its counts are 16-bit signed and a text's length
+// is 16-bit unsigned, in bytes of Windows-1252 (one per character).
+inline constexpr int MaximoBandas = 32767;
+inline constexpr int MaximoItens = 32767;
+inline constexpr qsizetype MaximoTexto = 65535;
+
 // Item type codes as stored in Item::Tipo.
 enum TipoItem : uint8_t {
     TipoTexto = 0,

@@ -242,8 +242,7 @@ void MoverMagico(SessaoEdicao &s, int x, int y, bool livre)
         return;
     }
     const Banda &banda = doc.banda(hit.banda);
-    const Item &ultimo = banda.Itens.last();
-    const qint64 fim = qint64(ultimo.Esquerda) + ultimo.Largura;
+    const qint64 fim = banda.Itens.isEmpty() ? 0 : qint64(banda.Itens.last().Esquerda) + banda.Itens.last().Largura;
     if (x <= fim + 16) {
         OcultarMagico(s);
         return;
@@ -256,6 +255,9 @@ void CliqueMagico(SessaoEdicao &s)
 {
     const FantasmaMagico m = s.Magico;
     if (!m.visivel || m.banda < 1)
+        return;
+    if (m.banda <= s.Documento.NumBandas() ? !CabemItens(s, m.banda, 1, TituloAdicionarItem)
+                                           : !CabemBandas(s, 1, TituloAdicionarBanda))
         return;
     OcultarMagico(s);
     NadaSelecionado(s);

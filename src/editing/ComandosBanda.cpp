@@ -15,10 +15,29 @@ QString Informar(SessaoEdicao &s, const QString &texto)
     return texto;
 }
 
+bool recusar(SessaoEdicao &s, const QString &texto, const QString &titulo)
+{
+    if (s.Ui)
+        s.Ui->Mensagem(texto, titulo, Icone::Informacao);
+    return false;
+}
+
 }  // namespace
+
+bool CabemBandas(SessaoEdicao &s, qsizetype novas, const QString &titulo)
+{
+    return s.Documento.NumBandas() + novas <= MaximoBandas || recusar(s, MensagemLimiteBandas, titulo);
+}
+
+bool CabemItens(SessaoEdicao &s, int banda, qsizetype novos, const QString &titulo)
+{
+    return s.Documento.banda(banda).NumItens() + novos <= MaximoItens || recusar(s, MensagemLimiteItens, titulo);
+}
 
 void mnuEditarBandaAdicionar(SessaoEdicao &s)
 {
+    if (!CabemBandas(s, 1, TituloAdicionarBanda))
+        return;
     LimparFaixa(s);
     s.AddBanda(0, false, 0, 0);
     s.ConcluirEdicao();
@@ -26,6 +45,8 @@ void mnuEditarBandaAdicionar(SessaoEdicao &s)
 
 void mnuEditarBandaInserir(SessaoEdicao &s)
 {
+    if (!CabemBandas(s, 1, TituloInserirBanda))
+        return;
     LimparFaixa(s);
     s.AddBanda(s.BandaSelecionada, false, 0, 0);
     MostrarSelecao(s, true);
@@ -34,6 +55,8 @@ void mnuEditarBandaInserir(SessaoEdicao &s)
 
 void mnuEditarBandaDuplicar(SessaoEdicao &s)
 {
+    if (!CabemBandas(s, 1, TituloDuplicarBanda))
+        return;
     LimparFaixa(s);
     s.AddBanda(s.BandaSelecionada, true, 0, 0);
     MostrarSelecao(s, true);
@@ -96,10 +119,11 @@ void mnuEditarBandaDown(SessaoEdicao &s)
 
 void mnuEditarBandaFonte(SessaoEdicao &s)
 {
-    if (!s.Ui)
-        return;
     Banda &banda = s.Documento.banda(s.BandaSelecionada);
-    const FonteItem &atual = s.ItemSelecionado > 0 ? banda.Itens[s.ItemSelecionado - 1].Fonte : banda.Itens[0].Fonte;
+    if (!s.Ui || banda.Itens.isEmpty())
+        return;
+    const bool temItem = s.ItemSelecionado >= 1 && s.ItemSelecionado <= banda.NumItens();
+    const FonteItem &atual = banda.Itens[temItem ? s.ItemSelecionado - 1 : 0].Fonte;
     const std::optional<FonteEscolhida> f = s.Ui->Fonte(
         {atual.Nome, double(atual.Tamanho), atual.Negrito, atual.Italico, atual.Sublinhado, atual.Tachado},
         s.Config.FontesImpressora);

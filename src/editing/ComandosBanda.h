@@ -19,6 +19,23 @@ inline const QString TituloRodape = QStringLiteral("Rodapé");
 
 inline const QString MensagemUltimaBanda = QStringLiteral("Não é possível remover a última banda!");
 
+// The file's counts are 16-bit: a command that would add bands or items
+// past them is refused (information, titled after the command) and changes
+// nothing. Each check tells the user and returns false when `novas` more
+// would not fit.
+inline const QString MensagemLimiteBandas =
+    QStringLiteral("O layout já tem o máximo de %1 bandas!").arg(MaximoBandas);
+inline const QString MensagemLimiteItens =
+    QStringLiteral("A banda já tem o máximo de %1 itens!").arg(MaximoItens);
+inline const QString TituloAdicionarBanda = QStringLiteral("Adicionar Banda");
+inline const QString TituloInserirBanda = QStringLiteral("Inserir Banda");
+inline const QString TituloDuplicarBanda = QStringLiteral("Duplicar Banda");
+inline const QString TituloAdicionarItem = QStringLiteral("Adicionar Item");
+inline const QString TituloInserirItem = QStringLiteral("Inserir Item");
+inline const QString TituloDuplicarItem = QStringLiteral("Duplicar Item");
+bool CabemBandas(SessaoEdicao &s, qsizetype novas, const QString &titulo);
+bool CabemItens(SessaoEdicao &s, int banda, qsizetype novos, const QString &titulo);
+
 void mnuEditarBandaAdicionar(SessaoEdicao &s);
 void mnuEditarBandaInserir(SessaoEdicao &s);
 void mnuEditarBandaDuplicar(SessaoEdicao &s);
@@ -27,6 +44,7 @@ bool mnuEditarBandaRemover(SessaoEdicao &s);
 void mnuEditarBandaUp(SessaoEdicao &s);
 void mnuEditarBandaDown(SessaoEdicao &s);
 // The font dialog; every item of the selected band takes the chosen font.
+// A band without items has no font to change: nothing happens.
 void mnuEditarBandaFonte(SessaoEdicao &s);
 
 // The selected band's height, or every band's of a range over several

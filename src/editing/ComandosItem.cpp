@@ -21,21 +21,37 @@ void concluir(SessaoEdicao &s)
 
 }  // namespace
 
-void mnuEditarItemInserir(SessaoEdicao &s)
+namespace {
+
+void inserir(SessaoEdicao &s)
 {
     LimparFaixa(s);
     s.AddItem(s.BandaSelecionada, false, 0);
     concluir(s);
 }
 
+}  // namespace
+
+void mnuEditarItemInserir(SessaoEdicao &s)
+{
+    if (CabemItens(s, s.BandaSelecionada, 1, TituloInserirItem))
+        inserir(s);
+}
+
 void mnuEditarItemAdicionar(SessaoEdicao &s)
 {
+    if (!CabemItens(s, s.BandaSelecionada, 1, TituloAdicionarItem))
+        return;
     NadaSelecionado(s);
-    mnuEditarItemInserir(s);
+    inserir(s);
 }
 
 void mnuEditarItemDuplicar(SessaoEdicao &s)
 {
+    // A band without items has nothing to duplicate.
+    if (s.Documento.banda(s.BandaSelecionada).Itens.isEmpty()
+        || !CabemItens(s, s.BandaSelecionada, 1, TituloDuplicarItem))
+        return;
     LimparFaixa(s);
     const int antes = s.ItemSelecionado;
     s.AddItem(s.BandaSelecionada, true, 0);

@@ -55,7 +55,7 @@ bool bandaAceitavel(const Banda &b)
 {
     constexpr qint64 Limite = 1 << 20;
     const auto dentro = [](qint64 v) { return v >= -Limite && v <= Limite; };
-    if (b.Itens.isEmpty() || !dentro(b.Altura) || (b.Deslocamento != -9999 && !dentro(b.Deslocamento)))
+    if (!dentro(b.Altura) || (b.Deslocamento != -9999 && !dentro(b.Deslocamento)))
         return false;
     qint64 soma = 0;
     for (const Item &it : b.Itens) {
@@ -110,11 +110,15 @@ bool mnuEditarCopiar(SessaoEdicao &s)
     if (s.Ganchos.EsvaziarAreaTransferencia)
         s.Ganchos.EsvaziarAreaTransferencia();
     const QString &arquivo = s.ArquivoTransferencia;
-    if (QFileInfo::exists(arquivo) && !QFile::remove(arquivo)) {
+    const QList<Banda> bandas = bandasCopiadas(s);
+    // What a paste could not read back replaces nothing.
+    ResultadoArquivo r = VerificarLimites(arquivo, bandas);
+    if (r.ok && QFileInfo::exists(arquivo) && !QFile::remove(arquivo)) {
         avisar(s, arquivo + QStringLiteral("\n\n") + MensagemSubstituirTransferencia, QString(), Icone::Critico);
         return false;
     }
-    const ResultadoArquivo r = GravarArquivoTemporario(arquivo, GravarBandas(MarcadorTransferencia(), bandasCopiadas(s)));
+    if (r.ok)
+        r = GravarArquivoTemporario(arquivo, GravarBandas(MarcadorTransferencia(), bandas));
     if (!r.ok) {
         avisar(s, r.mensagem, QString(), Icone::Exclamacao);
         return false;
@@ -131,7 +135,7 @@ void mnuEditarRecortar(SessaoEdicao &s)
 void mnuEditarColarBanda(SessaoEdicao &s)
 {
     const std::optional<QList<Banda>> bandas = LerAreaTransferencia(s);
-    if (!bandas)
+    if (!bandas || !CabemBandas(s, bandas->size(), TituloColar))
         return;
     LayoutDocumento &doc = s.Documento;
     const bool noFim = s.CliqueAbaixoDaUltimaBanda;
@@ -151,7 +155,12 @@ void mnuEditarColarBanda(SessaoEdicao &s)
             primeira = alvo;
         ultima = alvo;
     }
-    s.Faixa = {true, primeira, ultima, 1, doc.banda(primeira).NumItens()};
+    // A band without items, as a layout file may hold, is copied and pasted
+    // like any other; alone it leaves no item range to show.
+    if (primeira != ultima || doc.banda(primeira).NumItens() > 0)
+        s.Faixa = {true, primeira, ultima, 1, std::max(1, doc.banda(primeira).NumItens())};
+    else
+        LimparFaixa(s);
     s.ConcluirEdicao();
 }
 
@@ -159,6 +168,13 @@ void mnuEditarColarItem(SessaoEdicao &s)
 {
     const std::optional<QList<Banda>> bandas = LerAreaTransferencia(s);
     if (!bandas)
+        return;
+    qsizetype novos = 0;
+    for (const Banda &b : *bandas)
+        novos += b.Itens.size();
+    if (novos == 0)   // the copy of a band without items: nothing to insert
+        return;
+    if (!CabemItens(s, s.BandaSelecionada, novos, TituloColar))
         return;
     LimparFaixa(s);
     const int banda = s.BandaSelecionada;

@@ -230,14 +230,19 @@ void mnuEditarTudo(SessaoEdicao &s)
 {
     LimparFaixa(s);
     const bool bandaMudou = s.BandaSelecionada != 1;
+    const int itens = s.Documento.banda(1).NumItens();
     s.BandaSelecionada = 1;
-    s.ItemSelecionado = 1;
+    s.ItemSelecionado = std::min(1, itens);
     MostrarSelecao(s, bandaMudou);
+    // A lone band without items has nothing to hold a range; over several
+    // bands the range takes whole bands and its items do not matter.
+    if (s.Documento.NumBandas() == 1 && itens == 0)
+        return;
     FaixaSelecao &f = s.Faixa;
     f.bandaInicial = 1;
     f.bandaFinal = s.Documento.NumBandas();
     f.itemInicial = 1;
-    f.itemFinal = s.Documento.banda(1).NumItens();
+    f.itemFinal = std::max(1, itens);
     SelecionarFaixa(s, FaixaTudo, FaixaTudo);
 }
 

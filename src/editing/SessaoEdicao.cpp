@@ -72,10 +72,14 @@ bool SessaoEdicao::SalvarLMT(bool proporNomeAnterior)
         }
         NomeArquivo = escolhido;
     }
-    // The copybook comes first; its failure is reported and never keeps the
-    // layout from being saved.
-    GravarCopybookAoSalvar(Documento, NomeArquivo, Config.NoCobolUsarString, Ui);
-    const ResultadoArquivo r = GravarArquivoLMT(NomeArquivo, Documento);
+    // A layout the file cannot hold writes nothing, not even its copybook.
+    ResultadoArquivo r = VerificarLimites(NomeArquivo, Documento);
+    if (r.ok) {
+        // The copybook comes first; its failure is reported and never keeps
+        // the layout from being saved.
+        GravarCopybookAoSalvar(Documento, NomeArquivo, Config.NoCobolUsarString, Ui);
+        r = GravarArquivo(NomeArquivo, GravarLMT(Documento));
+    }
     if (!r.ok) {
         if (Ui)
             Ui->Mensagem(r.mensagem, QString(), Icone::Exclamacao);

@@ -27,7 +27,7 @@ void mudarBanda(SessaoEdicao &s, int banda)
     LimparFaixa(s);
     s.BandaSelecionada = banda;
     const int n = s.Documento.banda(banda).NumItens();
-    s.ItemSelecionado = s.ItemSelecionado == 0 ? 1 : std::min(s.ItemSelecionado, n);
+    s.ItemSelecionado = std::min(s.ItemSelecionado == 0 ? 1 : s.ItemSelecionado, n);
     MostrarSelecao(s, true);
 }
 

@@ -7,7 +7,9 @@
 #include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QMenu>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -163,4 +165,28 @@ TEST(EdicaoCanvas, ArrasteDeAlcaComFaixaMudaTodosOsItensEBandasDela)
         EXPECT_EQ((QList<int32_t>{e.banda(1).Altura, e.banda(2).Altura, e.banda(3).Altura}),
                   (QList<int32_t>{altura, altura + 8, c.altura3}));
     }
+}
+
+TEST(EdicaoCanvas, BandaSemItensDeUmArquivoAceitaTeclasMenusEMagico)
+{
+    Editor e(3);
+    e.s.Documento.banda(2).Itens.clear();   // what a file may hold
+    e.s.ConcluirEdicao();
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
+    QTest::keyClick(e.pagina, Qt::Key_Down);
+    ASSERT_EQ(e.s.BandaSelecionada, 2);
+    EXPECT_EQ(e.s.ItemSelecionado, 0);
+    emit e.janela.mnuEditar->aboutToShow();
+    for (const char *nome : {"mnuEditarBandaFonte", "mnuEditarItemDuplicar", "mnuEditarTudo"})
+        e.janela.findChild<QAction *>(QLatin1String(nome))->trigger();
+    EXPECT_TRUE(e.ui.fontesSoImpressao.empty());   // no font to change
+    EXPECT_EQ(e.s.Documento.banda(2).NumItens(), 0);
+
+    // The magic item over the empty band starts at its left edge.
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
+    const int y = e.s.Documento.banda(2).Topo + 4;
+    QTest::mouseMove(e.pagina, QPoint(40, y));
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(40, y));
+    ASSERT_EQ(e.s.Documento.banda(2).NumItens(), 1);
+    EXPECT_EQ(e.item(2, 1).Largura, 48);
 }

@@ -190,6 +190,12 @@ TEST(PainelJanela, DigitarNoCanvasEEnter)
     QTest::keyClicks(t.p->txtTexto, QStringLiteral("!"));
     QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 10, 16 + 5));
     EXPECT_TRUE(t.item().Texto.endsWith(QLatin1Char('!')));
+    // The box takes every text the file holds, and not one character more.
+    t.p->txtTexto->setFocus();
+    t.p->txtTexto->setText(QString(MaximoTexto - 1, QLatin1Char('x')));
+    QTest::keyClicks(t.p->txtTexto, QStringLiteral("yz"));
+    QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
+    EXPECT_EQ(t.item().Texto.size(), MaximoTexto);
 }
 
 TEST(PainelJanela, MacroNoCursorFicaSelecionada)

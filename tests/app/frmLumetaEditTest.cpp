@@ -215,9 +215,10 @@ TEST(frmLumetaEdit, ArquivosRecentesNoMenuEAberturaQueFalhaEncerraSemPerguntar)
     EXPECT_FALSE(j.acao("mnuArquivoRecente(1)")->isVisible());
     EXPECT_FALSE(j.acao("mnuArquivoExcluirRecentes")->isVisible());
 
-    // An unreadable file ends the program without asking about changes.
+    // An unreadable file (here a whole one without bands) ends the program
+    // without asking about changes.
     const QString ruim = j.cfg.Pasta() + QStringLiteral("/ruim.lmt");
-    teste::GravarArquivoTeste(ruim, GravarLMT(LayoutDocumento()).left(36));
+    teste::GravarArquivoTeste(ruim, GravarLMT(LayoutDocumento()));
     j.editar();
     j.ui.respostas = {Resposta::Nao};
     j.ui.arquivos = {ruim};

@@ -1,9 +1,12 @@
 #include "document/ArquivoLMT.h"
 #include "editing/SessaoEdicao.h"
+#include "support/ConfigTemporaria.h"
+#include "support/InterfaceRoteirizada.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -279,6 +282,8 @@ TEST(ArquivoLMT, ContagensHostisSaoRecusadasSemAlocarAlemDoArquivo)
     QByteArray quebras = GravarLMT(SessaoEdicao().Documento);
     quebras.chop(2 + 2 + 2 + 2 + 5);
     casos.push_back({"quebras demais", quebras + Bytes().i16(3).i16(1).i32(1000000).i32(1).i16(1).b});
+    // A whole file but no band: an open layout always has one.
+    casos.push_back({"nenhuma banda", GravarLMT(LayoutDocumento())});
     for (const Caso &c : casos) {
         LayoutDocumento d;
         EXPECT_EQ(LerLMT(c.dados, d).resultado, ResultadoLeitura::ErroLeitura) << c.nome;
@@ -303,13 +308,44 @@ TEST(ArquivoLMT, GravarSubstituiOArquivoEMantemModoELigacao)
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-TEST(ArquivoLMT, TextoLongoDemaisEhCortadoSemCorromperOsCamposSeguintes)
+TEST(ArquivoLMT, LayoutAlemDosLimitesNaoEhGravadoEOArquivoAntigoFica)
 {
+    teste::ConfigTemporaria cfg;
+    teste::InterfaceRoteirizada ui;
     SessaoEdicao s;
-    s.Documento.banda(1).Itens[0].Texto = QString(70000, QLatin1Char('x'));
-    s.Documento.MargemInferior = QStringLiteral("WS-FIM");
+    s.Ui = &ui;
+    s.NomeArquivo = cfg.Pasta() + QStringLiteral("/bom.lmt");
+    ASSERT_TRUE(s.SalvarLMT(false));
+    const QByteArray bom = teste::LerArquivo(s.NomeArquivo);
+    const LayoutDocumento novo = s.Documento;
+    const QString longo(MaximoTexto + 1, QLatin1Char('x'));
+    // What each change makes the file unable to hold.
+    const std::pair<const char *, std::function<void(LayoutDocumento &)>> casos[] = {
+        {"mais de 32767 bandas", [](LayoutDocumento &d) { d.Bandas.insert(0, MaximoBandas, d.banda(1)); }},
+        {"a banda 1 tem mais de 32767 itens",
+         [](LayoutDocumento &d) { d.banda(1).Itens.insert(0, MaximoItens, d.banda(1).Itens[0]); }},
+        {"o item 1 da banda 1 passa de 65535 bytes", [&](LayoutDocumento &d) { d.banda(1).Itens[0].Texto = longo; }},
+        {"o comentário da banda 1 passa de 65535 bytes", [&](LayoutDocumento &d) { d.banda(1).Comentario = longo; }},
+        {"um texto das opções do layout passa de 65535 bytes", [&](LayoutDocumento &d) { d.TextoEmail = longo; }},
+    };
+    for (const auto &[excesso, mudar] : casos) {
+        s.Documento = novo;
+        mudar(s.Documento);
+        ui.mensagens.clear();
+        EXPECT_FALSE(s.SalvarLMT(false)) << excesso;
+        ASSERT_EQ(ui.mensagens.size(), 1) << excesso;
+        EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + s.NomeArquivo
+                                             + QStringLiteral("!\n\n6 - Estouro de capacidade (") + excesso
+                                             + QLatin1Char(')'));
+        EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
+        EXPECT_FALSE(GravarArquivoLMT(s.NomeArquivo, s.Documento).ok) << excesso;
+        ASSERT_EQ(teste::LerArquivo(s.NomeArquivo), bom) << excesso;
+    }
+    // The limits themselves are stored and read back.
+    s.Documento = novo;
+    s.Documento.banda(1).Itens[0].Texto = longo.left(MaximoTexto);
+    ASSERT_TRUE(s.SalvarLMT(false));
     LayoutDocumento lido;
-    ASSERT_EQ(LerLMT(GravarLMT(s.Documento), lido).resultado, ResultadoLeitura::Ok);
-    EXPECT_EQ(lido.banda(1).Itens[0].Texto.size(), 65535);
-    EXPECT_EQ(lido.MargemInferior, QStringLiteral("WS-FIM"));
+    ASSERT_TRUE(AbrirArquivoLMT(s.NomeArquivo, lido).ok);
+    EXPECT_EQ(lido.banda(1).Itens[0].Texto.size(), MaximoTexto);
 }

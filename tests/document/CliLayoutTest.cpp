@@ -69,10 +69,14 @@ TEST(Cli, ErrosDaoAMensagemDoEditorECodigoDeSaida)
     QTemporaryDir dir;
     const QString ruim = dir.filePath(QStringLiteral("ruim.lmt"));
     teste::GravarArquivoTeste(ruim, "LumetaEdit 1.0(z)               ");
+    // A good header and every field, but no band.
+    const QString semBandas = dir.filePath(QStringLiteral("sem-bandas.lmt"));
+    teste::GravarArquivoTeste(semBandas, GravarLMT(LayoutDocumento()));
     // Arguments, exit status, start of the message.
     const std::tuple<QStringList, int, QString> casos[] = {
         {{"texto", ruim}, 1, "Formato inválido!"},
         {{"texto", dir.filePath(QStringLiteral("nao-existe.lmt"))}, 1, "Ocorreu um erro ao abrir o arquivo '"},
+        {{"png", semBandas, dir.filePath(QStringLiteral("s.png"))}, 1, "Ocorreu um erro ao abrir o arquivo '"},
         {{"novo", dir.filePath(QStringLiteral("sem/pasta.lmt"))}, 1, "Ocorreu um erro ao gravar o arquivo '"},
         {{"texto"}, 2, "Uso: lumetaedit-cli texto"},
         // An option is never taken for a file name.

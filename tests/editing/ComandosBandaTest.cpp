@@ -1,6 +1,12 @@
+#include "document/ArquivoLMT.h"
+#include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
+#include "editing/ComandosItem.h"
 #include "editing/ComandosTransferencia.h"
 #include "editing/SessaoMontada.h"
+
+#include <functional>
+#include <vector>
 
 using namespace lumeta;
 using BandaMenu = lumeta::teste::SessaoMontada;
@@ -206,4 +212,55 @@ TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
     s.Documento.QuebraPaginaFinal = true;
     EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
     EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
+}
+
+TEST_F(BandaMenu, NoLimiteDoArquivoOsComandosQueCrescemRecusamENadaMudam)
+{
+    Montar({{64}, {1}});
+    Selecionar(1, 1);
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    s.Config.MagicItem = true;
+    LayoutDocumento &d = s.Documento;
+    d.Bandas.insert(2, MaximoBandas - 2, d.banda(2));
+    Reposicionar();
+    const auto magico = [&](int x, int y) {
+        MoverMagico(s, x, y, true);
+        CliqueMagico(s);
+    };
+    using Casos = std::vector<std::pair<std::function<void()>, QString>>;
+    const auto recusados = [&](const Casos &casos, const QString &mensagem) {
+        const LayoutDocumento antes = d;
+        for (const auto &[comando, titulo] : casos) {
+            ui.mensagens.clear();
+            comando();
+            ASSERT_EQ(ui.mensagens.size(), 1) << titulo.toStdString();
+            EXPECT_EQ(ui.mensagens[0].texto, mensagem);
+            EXPECT_EQ(ui.mensagens[0].titulo, titulo);
+            EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
+            EXPECT_TRUE(d == antes) << titulo.toStdString();
+        }
+    };
+    recusados({{[&] { mnuEditarBandaAdicionar(s); }, TituloAdicionarBanda},
+               {[&] { mnuEditarBandaInserir(s); }, TituloInserirBanda},
+               {[&] { mnuEditarBandaDuplicar(s); }, TituloDuplicarBanda},
+               {[&] { mnuEditarColarBanda(s); }, TituloColar},
+               {[&] { magico(100, d.banda(MaximoBandas).Topo + 60); }, TituloAdicionarBanda}},
+              QStringLiteral("O layout já tem o máximo de 32767 bandas!"));
+
+    d.banda(1).Itens.insert(1, MaximoItens - 1, d.banda(2).Itens[0]);
+    d.ReposicionarItem(1);
+    recusados({{[&] { mnuEditarItemAdicionar(s); }, TituloAdicionarItem},
+               {[&] { mnuEditarItemInserir(s); }, TituloInserirItem},
+               {[&] { mnuEditarItemDuplicar(s); }, TituloDuplicarItem},
+               {[&] { mnuEditarColarItem(s); }, TituloColar},
+               {[&] { magico(64 + MaximoItens + 100, 20); }, TituloAdicionarItem}},
+              QStringLiteral("A banda já tem o máximo de 32767 itens!"));
+
+    // What the commands kept is a file the editor reads back.
+    const QString cheio = pasta.filePath(QStringLiteral("cheio.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(cheio, d).ok);
+    LayoutDocumento lido;
+    ASSERT_TRUE(AbrirArquivoLMT(cheio, lido).ok);
+    EXPECT_EQ(lido.NumBandas(), MaximoBandas);
+    EXPECT_EQ(lido.banda(1).NumItens(), MaximoItens);
 }

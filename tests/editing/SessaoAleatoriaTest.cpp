@@ -1,11 +1,15 @@
-// A long seeded run of everything a user can do on the canvas and in the
-// Edit menu, checking the layout's rules after every single step.
+// A long seeded run of everything a user can do on the canvas, the keys, the
+// panel and the Edit menu, also on files with bands without items, checking
+// the layout's rules after every single step.
 
 #include "document/ArquivoLMT.h"
 #include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
 #include "editing/ComandosItem.h"
+#include "editing/ComandosPainel.h"
 #include "editing/ComandosTransferencia.h"
+#include "editing/DesenhoSelecao.h"
+#include "editing/PainelPropriedades.h"
 #include "editing/Selecao.h"
 #include "editing/Teclado.h"
 #include "support/InterfaceRoteirizada.h"
@@ -47,6 +51,25 @@ private:
     std::mt19937 &m_g;
 };
 
+// Layouts a file may hold though no command makes them: bands without
+// items (the number of items of each band), read back through the reader.
+LayoutDocumento LayoutLido(std::initializer_list<int> itens)
+{
+    LayoutDocumento d;
+    for (int n : itens) {
+        Banda b;
+        for (int i = 1; i <= n; ++i) {
+            Item it;
+            it.Texto = QString::number(i);
+            b.Itens.append(it);
+        }
+        d.Bandas.append(b);
+    }
+    LayoutDocumento lido;
+    EXPECT_EQ(LerLMT(GravarLMT(d), lido).resultado, ResultadoLeitura::Ok);
+    return lido;
+}
+
 // Empty when the session keeps every rule of the layout and the selection.
 std::string Violacao(const SessaoEdicao &s)
 {
@@ -56,8 +79,6 @@ std::string Violacao(const SessaoEdicao &s)
         return "no band";
     for (int b = 1; b <= n; ++b) {
         const Banda &banda = d.banda(b);
-        if (banda.NumItens() < 1)
-            return "band " + std::to_string(b) + " has no item";
         int32_t esquerda = 0;
         for (int i = 1; i <= banda.NumItens(); ++i) {
             const Item &it = banda.Itens[i - 1];
@@ -104,11 +125,32 @@ public:
     }
     QPoint Ponto() { return QPoint(Entre(-8, 420), Entre(-8, Fundo() + 40)); }
 
+    // What opening a file does to the session, without the settings store.
+    void Abrir(const LayoutDocumento &lido)
+    {
+        s.Documento = lido;
+        s.BandaSelecionada = 1;
+        s.ItemSelecionado = 0;
+        s.Faixa = FaixaSelecao();
+        s.Documento.ReposicionarTudo();
+        s.Desfazer.PosicaoDesfazer = AnelDesfazer::NumPosicoes;
+        s.ConcluirEdicao();
+        s.Desfazer.InicioDesfazer = 1;
+    }
+
     // One user action; returns its name for the failure message. Handle
     // drags check the rules after every move themselves.
     const char *Passo(const std::function<void(const char *)> &verificar)
     {
         LayoutDocumento &d = s.Documento;
+        // Now and then a file with bands without items is opened, so every
+        // command also meets them.
+        if (Chance(1) && Chance(40)) {
+            static const LayoutDocumento lidos[] = {LayoutLido({0}), LayoutLido({0, 2, 0, 1}), LayoutLido({3, 0}),
+                                                    LayoutLido({0, 0, 0})};
+            Abrir(lidos[g() % std::size(lidos)]);
+            return "open layout with empty bands";
+        }
         // Keep the layout small, by the commands themselves.
         if (d.NumBandas() > 10) {
             s.BandaSelecionada = Entre(1, d.NumBandas());
@@ -120,7 +162,7 @@ public:
             mnuEditarItemRemover(s);
             return "trim items";
         }
-        switch (Entre(0, 13)) {
+        switch (Entre(0, 14)) {
         case 0: {
             const QPoint p = Ponto();
             MouseDownCanvas(s, p.x(), p.y(), Chance(25) ? BotaoMouse::Direito : BotaoMouse::Esquerdo, Chance(20));
@@ -217,6 +259,22 @@ public:
                 d.BandaRodape = Chance(70) ? s.BandaSelecionada : 0;
             s.ConcluirEdicao();
             return "header/footer";
+        case 13:
+            // The property panel, as its controls call the session.
+            CalcularPainel(s);
+            AreaMarcasEdicao(s);
+            switch (Entre(0, 9)) {
+            case 0: ConfirmarTexto(s, QStringLiteral("t")); return "panel text";
+            case 1: MarcarAtributo(s, Entre(1, 10), Chance(50)); return "panel box";
+            case 2: DefinirAngulo(s, Entre(0, 3)); return "panel angle";
+            case 3: DefinirEspessura(s, Entre(1, 9)); return "panel thickness";
+            case 4: ConfirmarLargura(s, Entre(1, 200)); return "panel width";
+            case 5: ConfirmarAltura(s, Entre(1, 60)); return "panel height";
+            case 6: ConfirmarDeslocamento(s, Entre(-20, 20)); return "panel offset";
+            case 7: MarcarCabecalho(s, Chance(50)); return "panel header";
+            case 8: AlterarFonte(s); return "panel font";
+            default: AcaoFonte(s); return "panel font button";
+            }
         default:
             PrepararMenuEditar(s, Chance(10));
             return "edit menu";
@@ -255,6 +313,7 @@ TEST(SessaoAleatoria, CemMilComandosMantemAsRegrasDoLayoutEOArquivoRelido)
     Roteiro roteiro(s, g);
 
     int passo = 0;
+    int abertos = 0;
     const char *acao = "start";
     std::string erro;
     const auto verificar = [&](const char *onde) {
@@ -267,6 +326,7 @@ TEST(SessaoAleatoria, CemMilComandosMantemAsRegrasDoLayoutEOArquivoRelido)
     verificar(acao);
     for (passo = 1; passo <= NumPassos && erro.empty(); ++passo) {
         acao = roteiro.Passo(verificar);
+        abertos += std::string(acao).starts_with("open");
         verificar(acao);
     }
     ASSERT_EQ(erro, std::string()) << "seed " << (outra ? semente : Semente);
@@ -274,6 +334,7 @@ TEST(SessaoAleatoria, CemMilComandosMantemAsRegrasDoLayoutEOArquivoRelido)
     EXPECT_GT(ui.numMensagens, 0);
     EXPECT_GT(pinturas, NumPassos / 4);
     EXPECT_GE(maiorNumBandas, 8);
+    EXPECT_GT(abertos, 50);
 
     const QByteArray dados = GravarLMT(s.Documento);
     LayoutDocumento relido;

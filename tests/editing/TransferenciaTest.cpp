@@ -136,7 +136,7 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         GravarArquivoTeste(s.ArquivoTransferencia, bom.left(n));
         recusado(Invalido, "truncado");
     }
-    // Another build's marker, a layout file, absurd counts, a band without items.
+    // Another build's marker, a layout file, absurd counts.
     QByteArray outro = bom;
     outro.replace(0, 32, MarcadorTransferencia(LUMETA_VERSAO_MAIOR, LUMETA_VERSAO_MENOR, LUMETA_VERSAO_REVISAO + 1));
     GravarArquivoTeste(s.ArquivoTransferencia, outro);
@@ -150,10 +150,6 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
     recusado(Invalido, "-1 bandas");
     GravarArquivoTeste(s.ArquivoTransferencia, marcador + QByteArray(2, '\0'));
     recusado(Invalido, "nenhuma banda");
-    Banda semItens = antes.banda(1);
-    semItens.Itens.clear();
-    GravarArquivoTeste(s.ArquivoTransferencia, GravarBandas(marcador, {semItens}));
-    recusado(Invalido, "banda sem itens");
 
     // Random bytes after a good marker and count, and random changes of a good file.
     std::mt19937 gerador(1234);
@@ -174,7 +170,6 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         if (auto bandas = LerAreaTransferencia(s)) {
             EXPECT_TRUE(ui.mensagens.isEmpty());
             for (const Banda &b : *bandas) {
-                EXPECT_GE(b.NumItens(), 1);
                 for (const Item &it : b.Itens) {
                     EXPECT_EQ(it.Linhas.size(), 10);
                     EXPECT_EQ(it.Atributos.size(), 10);
@@ -285,4 +280,41 @@ TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
         EXPECT_FALSE(s.Faixa.visivel);
     }
     EXPECT_EQ(desfeitos, 12);
+}
+
+TEST_F(Transferencia, CopiaQueUmaColagemNaoLeriaNaoSubstituiAAnterior)
+{
+    Montar({{64}});
+    Selecionar(1, 1);
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    const QByteArray anterior = LerArquivo(s.ArquivoTransferencia);
+    s.Documento.banda(1).Itens[0].Texto = QString(MaximoTexto + 1, QLatin1Char('x'));
+    ui.mensagens.clear();
+    EXPECT_FALSE(mnuEditarCopiar(s));
+    ASSERT_EQ(ui.mensagens.size(), 1);
+    EXPECT_EQ(ui.mensagens[0].texto,
+              QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + s.ArquivoTransferencia
+                  + QStringLiteral("!\n\n6 - Estouro de capacidade (o item 1 da banda 1 passa de 65535 bytes)"));
+    EXPECT_EQ(LerArquivo(s.ArquivoTransferencia), anterior);
+}
+
+TEST_F(Transferencia, BandaSemItensCopiaEColaComoBandaENadaComoItens)
+{
+    Montar({{64}, {32}});
+    s.Documento.banda(2).Itens.clear();   // what a layout file may hold
+    s.ConcluirEdicao();
+    MouseDownCanvas(s, 10, 300, BotaoMouse::Esquerdo, false);   // below the last band: paste at the end
+    s.BandaSelecionada = 2;
+    s.ItemSelecionado = 0;
+    ASSERT_TRUE(mnuEditarCopiar(s));
+    mnuEditarColarBanda(s);
+    ASSERT_TRUE(ui.mensagens.empty());
+    ASSERT_EQ(s.Documento.NumBandas(), 3);
+    EXPECT_EQ(s.Documento.banda(3).NumItens(), 0);
+    EXPECT_FALSE(s.Faixa.visivel);
+    s.BandaSelecionada = 1;
+    s.ItemSelecionado = 1;
+    mnuEditarColarItem(s);
+    EXPECT_TRUE(ui.mensagens.empty());
+    EXPECT_EQ(Textos(1), (QStringList{"1.1"}));
 }

@@ -228,6 +228,8 @@ void PainelJanela::criar()
     auto *rotTexto = new QLabel(QStringLiteral("Te&xto:"), this);
     txtTexto = new QLineEdit(this);
     txtTexto->setObjectName(QStringLiteral("txtTexto"));
+    // Every text the file can store, not the box's own 32,767 characters.
+    txtTexto->setMaxLength(int(MaximoTexto));
     rotTexto->setBuddy(txtTexto);
     txtTexto->installEventFilter(this);
     connect(txtTexto, &QLineEdit::textEdited, this, [this] { m_textoPendente = true; });

@@ -142,27 +142,91 @@ void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect
         c.p.drawImage(pos, img);
 }
 
+// Draws the slice `fonte` of a symbol into `alvo`, only the rows (columns
+// when `deitado`) of it that `visivel` holds. Along the bars a slice is
+// either copied one to one or is a single row stretched; along the symbol
+// it is stretched whole, which is bounded by the symbol's length.
+void DesenharTrecho(QPainter &p, const QImage &simbolo, QRect fonte, const QRect &alvo, const QRect &visivel,
+                    bool deitado)
+{
+    QRect destino = alvo;
+    if (deitado) {
+        destino.setLeft(visivel.left());
+        destino.setRight(visivel.right());
+        if (fonte.width() > 1)
+            fonte = QRect(fonte.x() + visivel.left() - alvo.left(), fonte.y(), destino.width(), fonte.height());
+    } else {
+        destino.setTop(visivel.top());
+        destino.setBottom(visivel.bottom());
+        if (fonte.height() > 1)
+            fonte = QRect(fonte.x(), fonte.y() + visivel.top() - alvo.top(), fonte.width(), destino.height());
+    }
+    p.drawImage(destino, simbolo, fonte);
+}
+
+// Bars taller than this are drawn from a symbol of this height whose middle
+// row is repeated: every row of a linear symbol's bars is alike, so the
+// picture is the same, and neither the symbol's memory nor the work of
+// drawing it grows with the band.
+constexpr int BarraMaximaDesenhada = 256;
+
 void PintarCodigoBarras(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
 {
     const int angulo = AnguloAtributos(it.Atributos);
     const bool deitado = angulo == 90 || angulo == 270;
     const bool mostrarTexto = MostrarDigitosCodigo(it);
+    const bool linear = it.Tipo != TipoPDF417;
+    const int32_t bits = Alinhamento(it.Atributos);
     const int alturaBarra = AlturaBarrasCodigo(it, celula.height());
+    const int desenhada = linear ? std::min(alturaBarra, BarraMaximaDesenhada) : alturaBarra;
+    const qint64 repetidas = qint64(alturaBarra) - desenhada;
 
-    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, texto, alturaBarra, mostrarTexto, angulo);
-    QSize tamanho = simbolo.size();
-    if (&simbolo != &ImagemErro()) {
+    if (linear && !deitado && EhCodigoBarras(it.Tipo)) {
+        // The rows of an upright symbol are known before it is drawn: one
+        // that lands outside the area is not drawn at all.
+        const bool linhaLegivel = mostrarTexto || it.Tipo == TipoInterlace25SemNumeros;
+        const int altura = Limitar32(qint64(std::max(alturaBarra, 1)) + (linhaLegivel ? 12 : 0));
+        const int y = Posicionar(QSize(1, altura), celula, bits).y();
+        if (qint64(y) + altura <= c.area.top() || y > c.area.bottom())
+            return;
+    }
+
+    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, texto, desenhada, mostrarTexto, angulo);
+    qint64 largura = simbolo.width(), altura = simbolo.height();
+    const bool erro = &simbolo == &ImagemErro();
+    if (!erro) {
         const int mag = MagnificacaoAtributos(it.Atributos);
         // A linear symbol grows along its length, a PDF417 symbol across it.
         const bool aoComprido = (it.Tipo == TipoPDF417) == deitado;
-        if (aoComprido)
-            tamanho.setWidth(tamanho.width() * mag);
-        else
-            tamanho.setHeight(tamanho.height() * mag);
+        (aoComprido ? largura : altura) *= mag;
+        if (repetidas > 0)
+            (deitado ? largura : altura) += repetidas;
     }
-    const QRect destino(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
-    if (destino.intersects(c.area))
+    const QSize tamanho(Limitar32(largura), Limitar32(altura));
+    const QRect destino(Posicionar(tamanho, celula, bits), tamanho);
+    if (!destino.intersects(c.area))
+        return;
+    if (erro || repetidas <= 0) {
         c.p.drawImage(destino, simbolo);
+        return;
+    }
+    // Before the middle row of the bars, the middle row stretched over the
+    // bars' true height, and what follows it (the digits).
+    const int lado = deitado ? simbolo.width() : simbolo.height();
+    const int meio = lado / 2;
+    const qint64 trechos[3][2] = {{0, meio}, {meio, 1}, {meio + 1, lado - meio - 1}};
+    qint64 pos = deitado ? destino.x() : destino.y();
+    for (const auto &t : trechos) {
+        const qint64 destinoLado = t[0] == meio ? repetidas + 1 : t[1];
+        const QRect fonte = deitado ? QRect(int(t[0]), 0, int(t[1]), simbolo.height())
+                                    : QRect(0, int(t[0]), simbolo.width(), int(t[1]));
+        const QRect alvo = deitado ? QRect(Limitar32(pos), destino.y(), Limitar32(destinoLado), destino.height())
+                                   : QRect(destino.x(), Limitar32(pos), destino.width(), Limitar32(destinoLado));
+        const QRect visivel = alvo & c.area;
+        if (!visivel.isEmpty() && !fonte.isEmpty())
+            DesenharTrecho(c.p, simbolo, fonte, alvo, visivel, deitado);
+        pos += destinoLado;
+    }
 }
 
 void PintarBarraGrafico(Contexto &c, const Item &it, const CoresMacro &cores, const QRect &celula)

@@ -34,7 +34,7 @@ void CanvasPagina::TamanhoInicial(int larguraTela)
 {
     TamanhoTotal = true;
     Tamanho = QSize(std::max(larguraTela, LadoCanvasInicial), LadoCanvasInicial);
-    if (!PodeManter(Tamanho))
+    if (!SoOVisivel && !PodeManter(Tamanho))
         Tamanho = QSize(LadoCanvasInicial, LadoCanvasInicial);
     m_verificado = QSize();
 }
@@ -68,7 +68,7 @@ bool CanvasPagina::VerificarMemoria()
 {
     if (Tamanho == m_verificado)
         return true;
-    if (PodeManter(Tamanho)) {
+    if ((SoOVisivel && !Tamanho.isEmpty()) || PodeManter(Tamanho)) {
         m_verificado = Tamanho;
         return true;
     }

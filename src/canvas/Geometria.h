@@ -41,6 +41,13 @@ inline const QString MensagemMemoriaInsuficiente =
 // paints everything (ExibirBanda), the off-screen image itself.
 class CanvasPagina {
 public:
+    // `soOVisivel`: the canvas is never held as one picture, only the part a
+    // window shows is painted, so any size a position can reach can be made
+    // and the memory check passes (the editor's window). Otherwise the whole
+    // picture must fit in LimiteMemoria (a picture of the layout).
+    explicit CanvasPagina(bool soOVisivel = false) : SoOVisivel(soOVisivel) {}
+
+    bool SoOVisivel = false;
     bool TamanhoTotal = false;   // the canvas grows to hold the whole layout
     QSize Tamanho{LadoCanvasInicial, LadoCanvasInicial};
     QImage Imagem;               // ExibirBanda's off-screen picture, Tamanho large

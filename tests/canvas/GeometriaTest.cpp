@@ -53,6 +53,14 @@ TEST(Geometria, TamanhoInicialCrescimentoEMemoria)
     doc.Bandas[0].Itens[1].Largura = 5000;
     EXPECT_FALSE(c.CrescerLargura(doc));
 
+    // The window's canvas is painted only where it shows: any size passes.
+    CanvasPagina janela(true);
+    janela.LimiteMemoria = 1;
+    janela.TamanhoInicial(1120);
+    janela.Tamanho = QSize(1120, 2000000000);
+    EXPECT_TRUE(janela.VerificarMemoria());
+    EXPECT_TRUE(janela.TamanhoTotal);
+
     CanvasPagina d;
     d.TamanhoInicial(1120);
     d.Tamanho = QSize(1120, 9000);

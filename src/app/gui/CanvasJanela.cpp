@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPaintEvent>
+#include <cstdlib>
 
 namespace lumeta {
 
@@ -29,9 +30,25 @@ PicPagina::PicPagina(SessaoEdicao &sessao, QWidget *pai) : QWidget(pai), m_sessa
 void PicPagina::paintEvent(QPaintEvent *e)
 {
     QPainter p(this);
-    PintarLayout(p, m_sessao.Documento, e->rect(), m_sessao.Recursos);
-    PintarMarcasEdicao(p, m_sessao, e->rect());
+    p.translate(-m_origem);
+    const QRect area = e->rect().translated(m_origem);
+    PintarLayout(p, m_sessao.Documento, area, m_sessao.Recursos);
+    PintarMarcasEdicao(p, m_sessao, area);
     m_marcas = AreaMarcasEdicao(m_sessao);
+}
+
+void PicPagina::DefinirOrigem(QPoint origem)
+{
+    const QPoint passo = m_origem - origem;
+    if (passo.isNull())
+        return;
+    m_origem = origem;
+    // Within a screenful the pixels shown are moved and only the strip
+    // uncovered is painted.
+    if (std::abs(qint64(passo.x())) < width() && std::abs(qint64(passo.y())) < height())
+        scroll(passo.x(), passo.y());
+    else
+        update();
 }
 
 void PicPagina::AtualizarMarcas()
@@ -65,7 +82,7 @@ void PicPagina::mousePressEvent(QMouseEvent *e)
     }
     if (esquerdo && !m_sessao.Faixa.visivel) {
         const int alca = AlcaEm(m_sessao, p);
-        if (alca >= 0 && IniciarArrasteAlca(m_sessao, alca, e->position())) {
+        if (alca >= 0 && IniciarArrasteAlca(m_sessao, alca, ParaCanvasF(e->position()))) {
             AtualizarMarcas();
             return;
         }
@@ -82,7 +99,7 @@ void PicPagina::mouseMoveEvent(QMouseEvent *e)
     const QPoint p = ParaCanvas(e->position());
     if (m_sessao.Alca.Ativo()) {
         if (e->buttons() & Qt::LeftButton)
-            MoverArrasteAlca(m_sessao, e->position());
+            MoverArrasteAlca(m_sessao, ParaCanvasF(e->position()));
         return;
     }
     if (e->buttons() == Qt::LeftButton && (e->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier

@@ -1,3 +1,4 @@
+#include "app/gui/AvisosQt.h"
 #include "app/gui/Autor.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/frmLumetaEdit.h"
@@ -431,4 +432,22 @@ TEST(frmLumetaEdit, LayoutsNoLimiteAbremInteirosRolamAteOFimEEditamLa)
     const QImage fim = j.janela.picPagina->grab().toImage();
     EXPECT_NE(topo, fim);
     EXPECT_EQ(avisos.total(), 0);
+}
+
+TEST(frmLumetaEdit, AvisosRepetidosDoQtNaoInundamASaidaDeErros)
+{
+    LimiteAvisos limite;
+    QStringList escritas;
+    for (int i = 0; i < 100000; ++i) {
+        const QString m = limite.Filtrar(QStringLiteral("QImage::setPixel: coordinate (%1,%2) out of range").arg(i).arg(i * 7));
+        if (!m.isEmpty())
+            escritas << m;
+    }
+    ASSERT_EQ(escritas.size(), LimiteAvisos::RepeticoesMostradas + 1);
+    EXPECT_TRUE(escritas.last().startsWith(QStringLiteral("(repetições desta mensagem omitidas)")));
+    // Another message still gets through; past the total nothing does.
+    EXPECT_FALSE(limite.Filtrar(QStringLiteral("outra")).isEmpty());
+    for (int i = 0; i < LimiteAvisos::TotalMostrado; ++i)
+        (void)limite.Filtrar(QStringLiteral("aviso ") + QChar(0x100 + i));
+    EXPECT_TRUE(limite.Filtrar(QStringLiteral("mais uma")).isEmpty());
 }

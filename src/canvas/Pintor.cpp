@@ -181,13 +181,15 @@ void PintarCodigoBarras(Contexto &c, const Item &it, const QString &texto, const
     const int desenhada = linear ? std::min(alturaBarra, BarraMaximaDesenhada) : alturaBarra;
     const qint64 repetidas = qint64(alturaBarra) - desenhada;
 
-    if (linear && !deitado && EhCodigoBarras(it.Tipo)) {
-        // The rows of an upright symbol are known before it is drawn: one
-        // that lands outside the area is not drawn at all.
+    if (linear && !deitado) {
+        // The rows of an upright symbol are known before it is drawn (give
+        // or take the few rows of a very low band): one that lands well
+        // outside the area is not drawn at all.
         const bool linhaLegivel = mostrarTexto || it.Tipo == TipoInterlace25SemNumeros;
         const int altura = Limitar32(qint64(std::max(alturaBarra, 1)) + (linhaLegivel ? 12 : 0));
         const int y = Posicionar(QSize(1, altura), celula, bits).y();
-        if (qint64(y) + altura <= c.area.top() || y > c.area.bottom())
+        constexpr int folga = 16;
+        if (qint64(y) + altura + folga <= c.area.top() || qint64(y) - folga > c.area.bottom())
             return;
     }
 

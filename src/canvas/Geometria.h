@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -89,6 +90,13 @@ private:
 // large; results are limited to 0 .. `maximo`.
 QPoint RolarParaSelecao(const LayoutDocumento &doc, int banda, int item, QPoint atual, QSize viewport,
                         QPoint maximo);
+
+// A rectangle from 64-bit position and size, as a QRect can hold it: Qt keeps
+// the far edge (x + width - 1) and works out the width as 32-bit numbers, so
+// the edges are stopped at the ends of the range and the width (negative
+// for a negative size) at +-2^31 - 1. What lies past a stopped edge is
+// never on a canvas.
+QRect RetanguloLimitado(qint64 x, qint64 y, qint64 largura, qint64 altura);
 
 // The scroll bar maxima of a canvas in a viewport (never below 0).
 QPoint MaximoRolagem(QSize canvas, QSize viewport);

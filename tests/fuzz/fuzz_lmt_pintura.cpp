@@ -8,7 +8,9 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace {
 
@@ -41,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QImage figura(160, 120, QImage::Format_RGB32);
     QList<QPoint> origens = {QPoint(0, 0)};
     if (doc.NumBandas() > 0)
-        origens.append(QPoint(0, doc.Bandas.last().Topo));
+        origens.append(QPoint(0, std::min(doc.Bandas.last().Topo, std::numeric_limits<int>::max() - figura.height())));
     for (const QPoint &o : origens) {
         QPainter p(&figura);
         p.translate(-o);

@@ -1,5 +1,6 @@
 // The editor: one main window on the document named on the command line, or
 // on a new one.
+#include "app/gui/AvisosQt.h"
 #include "app/gui/frmLumetaEdit.h"
 #include "controls/ui/InterfaceUsuarioQt.h"
 #include "document/ArquivoDisco.h"
@@ -10,6 +11,7 @@
 
 int main(int argc, char **argv)
 {
+    lumeta::InstalarLimiteAvisos();
     QApplication app(argc, argv);
     QApplication::setApplicationName(lumeta::TituloAplicacao);
     QApplication::setOrganizationName(lumeta::OrganizacaoConfig);

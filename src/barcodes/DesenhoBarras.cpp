@@ -71,8 +71,8 @@ DesenhoBarras::DesenhoBarras(QImage &figura, int angulo)
 
 void DesenhoBarras::Dimensionar(int largura, int altura)
 {
-    m_largura = std::max(largura, 1);
-    m_altura = std::max(altura, 1);
+    m_largura = std::clamp(largura, 1, ComprimentoMaximoSimbolo);
+    m_altura = std::clamp(altura, 1, AlturaMaximaSimbolo);
     if (AnguloDeitado(m_angulo))
         m_figura = QImage(m_altura, m_largura, QImage::Format_RGB32);
     else
@@ -92,12 +92,15 @@ void DesenhoBarras::Modulos(std::string_view modulos, int topo, int comprimento,
 {
     const QRgb preto = qRgb(0, 0, 0);
     const QRgb branco = qRgb(255, 255, 255);
+    // Only the rows and columns the picture holds are walked.
+    const int de = std::max(topo, 0);
+    const int ate = int(std::min<qint64>(qint64(topo) + comprimento, m_altura));
     for (const char c : modulos) {
         ++x;
-        if (c != '1' && !pintarEspacos)
+        if ((c != '1' && !pintarEspacos) || x < 0 || x >= m_largura)
             continue;
         const QRgb cor = c == '1' ? preto : branco;
-        for (int y = topo; y < topo + comprimento; ++y)
+        for (int y = de; y < ate; ++y)
             PintarPixel(x, y, cor);
     }
 }
@@ -114,19 +117,25 @@ void DesenhoBarras::Texto(double tx, int ty, const QString &texto)
     // The line is set upright and then turned pixel by pixel with the bars, so
     // the digits look the same from every side and keep their place exactly.
     // Only the glyphs are copied: the text has no background.
-    QImage capa(m_largura, m_altura, QImage::Format_RGB32);
+    // The layer holds only the rows the line can touch, whatever the bars' height.
+    const QFont f = FonteLinhaLegivel(m_angulo);
+    const QFontMetrics medidas(f);
+    const int de = std::clamp(ty - 2, 0, m_altura);
+    const int ate = int(std::clamp<qint64>(qint64(ty) + medidas.height() + 2, de, m_altura));
+    if (ate <= de)
+        return;
+    QImage capa(m_largura, ate - de, QImage::Format_RGB32);
     capa.fill(Qt::white);
     {
         QPainter p(&capa);
-        const QFont f = FonteLinhaLegivel(m_angulo);
         p.setFont(f);
         p.setPen(Qt::black);
         // Centred texts fall on half pixels; the line snaps to the nearest column.
-        p.drawText(QPointF(qRound(tx), ty + QFontMetrics(f).ascent()), texto);
+        p.drawText(QPointF(qRound(tx), ty - de + medidas.ascent()), texto);
     }
     const QRgb preto = qRgb(0, 0, 0);
-    for (int y = 0; y < m_altura; ++y) {
-        const auto *linha = reinterpret_cast<const QRgb *>(capa.constScanLine(y));
+    for (int y = de; y < ate; ++y) {
+        const auto *linha = reinterpret_cast<const QRgb *>(capa.constScanLine(y - de));
         for (int x = 0; x < m_largura; ++x)
             if (qGray(linha[x]) < 128)
                 PintarPixel(x, y, preto);

@@ -36,6 +36,13 @@ std::string ExpandirLargoEstreito(std::string_view padrao);
 // the cleaning of the symbologies that encode digits in pairs.
 QString DigitosEmPares(QString valor);
 
+// The largest picture an encoder draws, along the symbol and across it
+// (unrotated). A longer symbol is cut at its far end and taller bars stop
+// there: no layout shows more, and memory stays that of an ordinary symbol
+// whatever the value's length or the band's height.
+constexpr int ComprimentoMaximoSimbolo = 16384;
+constexpr int AlturaMaximaSimbolo = 1024;
+
 // The state of one encoder call: the target picture, the unrotated size of the
 // symbol, the rotation and the running x.
 class DesenhoBarras {
@@ -43,7 +50,8 @@ public:
     DesenhoBarras(QImage &figura, int angulo);
 
     // Clears the picture and gives it the symbol's size (exchanged for 90 and
-    // 270). Sizes below 1 are taken as 1: a picture never vanishes.
+    // 270). Sizes below 1 are taken as 1: a picture never vanishes; sizes
+    // past the maxima above are cut to them.
     void Dimensionar(int largura, int altura);
 
     // Draws each module of `modulos` one column to the right of the last one:

@@ -122,10 +122,16 @@ const QImage &CacheSimbolos::Simbolo(int tipo, const QString &texto, int alturaB
     Chave chave{tipo, literal ? texto : QString(), alturaBarra, mostrarTexto, angulo};
     auto it = m_simbolos.find(chave);
     if (it == m_simbolos.end()) {
-        if (m_simbolos.size() > 4096)
+        // Kept by count and by bytes, so a layout of many long symbols
+        // redraws some of them rather than holding them all.
+        if (m_simbolos.size() > 4096 || m_bytes > MaximoBytesSimbolos) {
             m_simbolos.clear();
+            m_bytes = 0;
+        }
         const QString valor = ValorExibido(texto, "0123456789");
-        it = m_simbolos.insert(std::move(chave), DesenharCodigoBarras(tipo, valor, alturaBarra, mostrarTexto, angulo));
+        QImage simbolo = DesenharCodigoBarras(tipo, valor, alturaBarra, mostrarTexto, angulo);
+        m_bytes += simbolo.sizeInBytes();
+        it = m_simbolos.insert(std::move(chave), std::move(simbolo));
     }
     return it->isNull() ? ImagemErro() : *it;
 }

@@ -63,7 +63,9 @@ private:
     {
         return qHashMulti(semente, c.tipo, c.texto, c.alturaBarra, c.mostrarTexto, c.angulo);
     }
+    static constexpr qint64 MaximoBytesSimbolos = qint64(64) << 20;
     QHash<Chave, QImage> m_simbolos;
+    qint64 m_bytes = 0;
 };
 
 }  // namespace lumeta

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
+#include <utility>
 
 namespace lumeta {
 
@@ -18,8 +20,7 @@ bool CanvasPagina::PodeManter(QSize tamanho) const
 {
     if (tamanho.width() <= 0 || tamanho.height() <= 0)
         return false;
-    const qint64 bytes = qint64(tamanho.width()) * qint64(tamanho.height()) * 4;
-    if (bytes > LimiteMemoria)
+    if (qint64(tamanho.width()) * qint64(tamanho.height()) > LimiteMemoria / 4)
         return false;
     if (Imagem.size() == tamanho)
         return true;
@@ -34,7 +35,7 @@ void CanvasPagina::TamanhoInicial(int larguraTela)
 {
     TamanhoTotal = true;
     Tamanho = QSize(std::max(larguraTela, LadoCanvasInicial), LadoCanvasInicial);
-    if (!PodeManter(Tamanho))
+    if (!SoOVisivel && !PodeManter(Tamanho))
         Tamanho = QSize(LadoCanvasInicial, LadoCanvasInicial);
     m_verificado = QSize();
 }
@@ -68,7 +69,7 @@ bool CanvasPagina::VerificarMemoria()
 {
     if (Tamanho == m_verificado)
         return true;
-    if (PodeManter(Tamanho)) {
+    if ((SoOVisivel && !Tamanho.isEmpty()) || PodeManter(Tamanho)) {
         m_verificado = Tamanho;
         return true;
     }
@@ -118,6 +119,19 @@ QPoint RolarParaSelecao(const LayoutDocumento &doc, int banda, int item, QPoint 
     v = std::clamp<int64_t>(v, 0, std::max(0, maximo.y()));
     h = std::clamp<int64_t>(h, 0, std::max(0, maximo.x()));
     return QPoint(int(h), int(v));
+}
+
+QRect RetanguloLimitado(qint64 x, qint64 y, qint64 largura, qint64 altura)
+{
+    constexpr qint64 menor = std::numeric_limits<int>::min(), maior = std::numeric_limits<int>::max();
+    auto borda = [&](qint64 inicio, qint64 tamanho) {
+        const qint64 a = std::clamp(inicio, menor + 1, maior);
+        const qint64 b = std::clamp(a + std::clamp(tamanho, -maior, maior) - 1, menor, maior);
+        return std::pair(int(a), int(b));
+    };
+    const auto [x1, x2] = borda(x, largura);
+    const auto [y1, y2] = borda(y, altura);
+    return QRect(QPoint(x1, y1), QPoint(x2, y2));
 }
 
 QPoint MaximoRolagem(QSize canvas, QSize viewport)

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -41,6 +42,13 @@ inline const QString MensagemMemoriaInsuficiente =
 // paints everything (ExibirBanda), the off-screen image itself.
 class CanvasPagina {
 public:
+    // `soOVisivel`: the canvas is never held as one picture, only the part a
+    // window shows is painted, so any size a position can reach can be made
+    // and the memory check passes (the editor's window). Otherwise the whole
+    // picture must fit in LimiteMemoria (a picture of the layout).
+    explicit CanvasPagina(bool soOVisivel = false) : SoOVisivel(soOVisivel) {}
+
+    bool SoOVisivel = false;
     bool TamanhoTotal = false;   // the canvas grows to hold the whole layout
     QSize Tamanho{LadoCanvasInicial, LadoCanvasInicial};
     QImage Imagem;               // ExibirBanda's off-screen picture, Tamanho large
@@ -82,6 +90,13 @@ private:
 // large; results are limited to 0 .. `maximo`.
 QPoint RolarParaSelecao(const LayoutDocumento &doc, int banda, int item, QPoint atual, QSize viewport,
                         QPoint maximo);
+
+// A rectangle from 64-bit position and size, as a QRect can hold it: Qt keeps
+// the far edge (x + width - 1) and works out the width as 32-bit numbers, so
+// the edges are stopped at the ends of the range and the width (negative
+// for a negative size) at +-2^31 - 1. What lies past a stopped edge is
+// never on a canvas.
+QRect RetanguloLimitado(qint64 x, qint64 y, qint64 largura, qint64 altura);
 
 // The scroll bar maxima of a canvas in a viewport (never below 0).
 QPoint MaximoRolagem(QSize canvas, QSize viewport);

@@ -27,23 +27,18 @@ const FonteItem &FonteCanvas()
     return f;
 }
 
-int Arredondar(double v)
-{
-    return int(std::nearbyint(v));
-}
-
 // A filled box between two corners, both included, in either order.
-void Caixa(QPainter &p, int x1, int y1, int x2, int y2, const QColor &cor)
+void Caixa(QPainter &p, qint64 x1, qint64 y1, qint64 x2, qint64 y2, const QColor &cor)
 {
     if (x1 > x2)
         std::swap(x1, x2);
     if (y1 > y2)
         std::swap(y1, y2);
-    p.fillRect(QRect(x1, y1, x2 - x1 + 1, y2 - y1 + 1), cor);
+    p.fillRect(RetanguloLimitado(x1, y1, x2 - x1 + 1, y2 - y1 + 1), cor);
 }
 
 // The outline of the box between two corners, both included.
-void Contorno(QPainter &p, int x1, int y1, int x2, int y2, const QColor &cor)
+void Contorno(QPainter &p, qint64 x1, qint64 y1, qint64 x2, qint64 y2, const QColor &cor)
 {
     if (x1 > x2)
         std::swap(x1, x2);
@@ -88,18 +83,23 @@ void PintarMarcadoresBanda(QPainter &p, const Banda &banda, bool quebra, int top
 // The centring counts both edges of the cell.
 QPoint Posicionar(QSize tamanho, const QRect &celula, int32_t bits)
 {
-    const int esquerda = celula.x(), direita = celula.x() + celula.width();
-    const int topo = celula.y(), fundo = celula.y() + celula.height();
-    int x = esquerda, y = topo;
+    const qint64 esquerda = celula.x(), direita = qint64(celula.x()) + celula.width();
+    const qint64 topo = celula.y(), fundo = qint64(celula.y()) + celula.height();
+    qint64 x = esquerda, y = topo;
     if (bits & BitCentralizar)
-        x = esquerda + Arredondar((direita - esquerda + 1 - tamanho.width()) / 2.0);
+        x = esquerda + qint64(std::nearbyint((direita - esquerda + 1 - tamanho.width()) / 2.0));
     else if (bits & BitDireita)
         x = direita - tamanho.width();
     if (bits & BitCentroVertical)
-        y = topo + Arredondar((fundo - topo + 1 - tamanho.height()) / 2.0);
+        y = topo + qint64(std::nearbyint((fundo - topo + 1 - tamanho.height()) / 2.0));
     else if (bits & BitBase)
         y = fundo - tamanho.height();
-    return QPoint(x, y);
+    return QPoint(Limitar32(x), Limitar32(y));
+}
+
+QRect Colocado(QPoint pos, QSize tamanho)
+{
+    return RetanguloLimitado(pos.x(), pos.y(), tamanho.width(), tamanho.height());
 }
 
 struct Contexto {
@@ -114,18 +114,18 @@ void PintarBordas(QPainter &p, const Item &it, const QRect &celula, const QColor
     const int w = it.Espessura;
     if (w <= 0)
         return;
-    const int esquerda = celula.x(), topo = celula.y();
-    const int largura = celula.width(), altura = celula.height();
+    const qint64 esquerda = celula.x(), topo = celula.y();
+    const qint64 largura = celula.width(), altura = celula.height();
     // Middle lines count both edges of the cell.
-    const int meioY = topo + (altura + 1 - w) / 2;
-    const int meioX = esquerda + (largura + 1 - w) / 2;
+    const qint64 meioY = topo + (altura + 1 - w) / 2;
+    const qint64 meioX = esquerda + (largura + 1 - w) / 2;
     const QRect linhas[] = {
-        (bits & LinhaSuperior) ? QRect(esquerda, topo, largura, w) : QRect(),
-        (bits & LinhaInferior) ? QRect(esquerda, topo + altura - w, largura, w) : QRect(),
-        (bits & LinhaEsquerda) ? QRect(esquerda, topo, w, altura) : QRect(),
-        (bits & LinhaDireita) ? QRect(esquerda + largura - w, topo, w, altura) : QRect(),
-        (bits & LinhaMeioHorizontal) ? QRect(esquerda, meioY, largura, w) : QRect(),
-        (bits & LinhaMeioVertical) ? QRect(meioX, topo, w, altura) : QRect(),
+        (bits & LinhaSuperior) ? RetanguloLimitado(esquerda, topo, largura, w) : QRect(),
+        (bits & LinhaInferior) ? RetanguloLimitado(esquerda, topo + altura - w, largura, w) : QRect(),
+        (bits & LinhaEsquerda) ? RetanguloLimitado(esquerda, topo, w, altura) : QRect(),
+        (bits & LinhaDireita) ? RetanguloLimitado(esquerda + largura - w, topo, w, altura) : QRect(),
+        (bits & LinhaMeioHorizontal) ? RetanguloLimitado(esquerda, meioY, largura, w) : QRect(),
+        (bits & LinhaMeioVertical) ? RetanguloLimitado(meioX, topo, w, altura) : QRect(),
     };
     for (const QRect &l : linhas) {
         const QRect corte = l & celula;
@@ -138,31 +138,97 @@ void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect
 {
     const QImage &img = c.r.Figuras.Figura(texto);
     const QPoint pos = Posicionar(img.size(), celula, Alinhamento(it.Atributos));
-    if (QRect(pos, img.size()).intersects(c.area))
+    if (Colocado(pos, img.size()).intersects(c.area))
         c.p.drawImage(pos, img);
 }
+
+// Draws the slice `fonte` of a symbol into `alvo`, only the rows (columns
+// when `deitado`) of it that `visivel` holds. Along the bars a slice is
+// either copied one to one or is a single row stretched; along the symbol
+// it is stretched whole, which is bounded by the symbol's length.
+void DesenharTrecho(QPainter &p, const QImage &simbolo, QRect fonte, const QRect &alvo, const QRect &visivel,
+                    bool deitado)
+{
+    QRect destino = alvo;
+    if (deitado) {
+        destino.setLeft(visivel.left());
+        destino.setRight(visivel.right());
+        if (fonte.width() > 1)
+            fonte = QRect(fonte.x() + visivel.left() - alvo.left(), fonte.y(), destino.width(), fonte.height());
+    } else {
+        destino.setTop(visivel.top());
+        destino.setBottom(visivel.bottom());
+        if (fonte.height() > 1)
+            fonte = QRect(fonte.x(), fonte.y() + visivel.top() - alvo.top(), fonte.width(), destino.height());
+    }
+    p.drawImage(destino, simbolo, fonte);
+}
+
+// Bars taller than this are drawn from a symbol of this height whose middle
+// row is repeated: every row of a linear symbol's bars is alike, so the
+// picture is the same, and neither the symbol's memory nor the work of
+// drawing it grows with the band.
+constexpr int BarraMaximaDesenhada = 256;
 
 void PintarCodigoBarras(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
 {
     const int angulo = AnguloAtributos(it.Atributos);
     const bool deitado = angulo == 90 || angulo == 270;
     const bool mostrarTexto = MostrarDigitosCodigo(it);
+    const bool linear = it.Tipo != TipoPDF417;
+    const int32_t bits = Alinhamento(it.Atributos);
     const int alturaBarra = AlturaBarrasCodigo(it, celula.height());
+    const int desenhada = linear ? std::min(alturaBarra, BarraMaximaDesenhada) : alturaBarra;
+    const qint64 repetidas = qint64(alturaBarra) - desenhada;
 
-    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, texto, alturaBarra, mostrarTexto, angulo);
-    QSize tamanho = simbolo.size();
-    if (&simbolo != &ImagemErro()) {
+    if (linear && !deitado) {
+        // The rows of an upright symbol are known before it is drawn (give
+        // or take the few rows of a very low band): one that lands well
+        // outside the area is not drawn at all.
+        const bool linhaLegivel = mostrarTexto || it.Tipo == TipoInterlace25SemNumeros;
+        const int altura = Limitar32(qint64(std::max(alturaBarra, 1)) + (linhaLegivel ? 12 : 0));
+        const int y = Posicionar(QSize(1, altura), celula, bits).y();
+        constexpr int folga = 16;
+        if (qint64(y) + altura + folga <= c.area.top() || qint64(y) - folga > c.area.bottom())
+            return;
+    }
+
+    const QImage &simbolo = c.r.Simbolos.Simbolo(it.Tipo, texto, desenhada, mostrarTexto, angulo);
+    qint64 largura = simbolo.width(), altura = simbolo.height();
+    const bool erro = &simbolo == &ImagemErro();
+    if (!erro) {
         const int mag = MagnificacaoAtributos(it.Atributos);
         // A linear symbol grows along its length, a PDF417 symbol across it.
         const bool aoComprido = (it.Tipo == TipoPDF417) == deitado;
-        if (aoComprido)
-            tamanho.setWidth(tamanho.width() * mag);
-        else
-            tamanho.setHeight(tamanho.height() * mag);
+        (aoComprido ? largura : altura) *= mag;
+        if (repetidas > 0)
+            (deitado ? largura : altura) += repetidas;
     }
-    const QRect destino(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
-    if (destino.intersects(c.area))
+    const QSize tamanho(Limitar32(largura), Limitar32(altura));
+    const QRect destino = Colocado(Posicionar(tamanho, celula, bits), tamanho);
+    if (!destino.intersects(c.area))
+        return;
+    if (erro || repetidas <= 0) {
         c.p.drawImage(destino, simbolo);
+        return;
+    }
+    // Before the middle row of the bars, the middle row stretched over the
+    // bars' true height, and what follows it (the digits).
+    const int lado = deitado ? simbolo.width() : simbolo.height();
+    const int meio = lado / 2;
+    const qint64 trechos[3][2] = {{0, meio}, {meio, 1}, {meio + 1, lado - meio - 1}};
+    qint64 pos = deitado ? destino.x() : destino.y();
+    for (const auto &t : trechos) {
+        const qint64 destinoLado = t[0] == meio ? repetidas + 1 : t[1];
+        const QRect fonte = deitado ? QRect(int(t[0]), 0, int(t[1]), simbolo.height())
+                                    : QRect(0, int(t[0]), simbolo.width(), int(t[1]));
+        const QRect alvo = deitado ? RetanguloLimitado(pos, destino.y(), destinoLado, destino.height())
+                                   : RetanguloLimitado(destino.x(), pos, destino.width(), destinoLado);
+        const QRect visivel = alvo & c.area;
+        if (!visivel.isEmpty() && !fonte.isEmpty())
+            DesenharTrecho(c.p, simbolo, fonte, alvo, visivel, deitado);
+        pos += destinoLado;
+    }
 }
 
 void PintarBarraGrafico(Contexto &c, const Item &it, const CoresMacro &cores, const QRect &celula)
@@ -175,7 +241,7 @@ void PintarBarraGrafico(Contexto &c, const Item &it, const CoresMacro &cores, co
     if (altura == 0)
         altura = 1;
     const QSize tamanho(it.Largura, altura);
-    const QRect destino(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
+    const QRect destino = Colocado(Posicionar(tamanho, celula, Alinhamento(it.Atributos)), tamanho);
     if (!destino.intersects(c.area))
         return;
     const QColor preenchimento = it.CorTexto >= 80 ? QColor(Qt::black) : ResolverCor(it.CorTexto, cores.frente);
@@ -221,7 +287,7 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
     const CoresMacro cores = it.Texto.contains(QLatin1Char('<')) && it.Texto.contains(QLatin1String("<%_"))
         ? MacroColor(it.Texto)
         : CoresMacro{it.Texto};
-    const QRect celula(esquerda, topo, direita - esquerda, fundo - topo);
+    const QRect celula = RetanguloLimitado(esquerda, topo, qint64(direita) - esquerda, qint64(fundo) - topo);
 
     if (celulaVisivel) {
         Contorno(c.p, esquerda, topo, direita - 1, fundo - 1, QColor(230, 230, 230));
@@ -259,7 +325,7 @@ void PintarSelecao(QPainter &p, const LayoutDocumento &doc, const OpcoesPintura 
     const int xm = int((int64_t(x1) + x2) / 2), ym = int((int64_t(topo) + y2) / 2);
     const QPoint alcas[] = {{x1, topo}, {xm, topo}, {x2, topo}, {x1, ym}, {x2, ym}, {x1, y2}, {xm, y2}, {x2, y2}};
     for (const QPoint &a : alcas)
-        Caixa(p, a.x() - 2, a.y() - 2, a.x() + 2, a.y() + 2, marca);
+        Caixa(p, qint64(a.x()) - 2, qint64(a.y()) - 2, qint64(a.x()) + 2, qint64(a.y()) + 2, marca);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "document/ArquivoDisco.h"
 #include "document/Texto1252.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace lumeta {
@@ -20,17 +21,26 @@ constexpr qsizetype kMinBanda = 4 + 4 + 4 + 2 + 2;
 
 struct FimInesperado {};
 struct Corrompido {};
+struct FalhaLeitura {
+    ErroArquivo erro;
+};
 
+// Bytes of a layout, from memory or from a file read in blocks: a file is
+// never held whole, so what lies past the last field is never loaded and
+// the memory of a read follows the layout, not the file's size.
 class Leitor {
 public:
     explicit Leitor(const QByteArray &d) : p_(d.constData()), fim_(d.constData() + d.size()) {}
+    explicit Leitor(ArquivoLeitura &arquivo) : p_(nullptr), fim_(nullptr), arquivo_(&arquivo) {}
 
-    qsizetype restante() const { return fim_ - p_; }
+    qsizetype restante() const { return (fim_ - p_) + (arquivo_ ? arquivo_->Restante() : 0); }
 
     const char *bytes(qsizetype n)
     {
         if (n < 0 || n > restante())
             throw FimInesperado{};
+        if (n > fim_ - p_)
+            encher(n);
         const char *r = p_;
         p_ += n;
         return r;
@@ -89,8 +99,28 @@ private:
         return anterior;
     }
 
+    // Keeps what is left of the block and reads on until `n` bytes are at
+    // hand (a text is at most 65,535 bytes, so blocks stay small).
+    void encher(qsizetype n)
+    {
+        constexpr qint64 kBloco = 64 * 1024;
+        QByteArray novo;
+        novo.reserve(std::max<qsizetype>(n, kBloco));
+        novo.append(p_, fim_ - p_);
+        const qint64 falta = std::max<qint64>(n - novo.size(), std::min(kBloco, arquivo_->Restante()));
+        if (const ErroArquivo e = arquivo_->Ler(falta, novo))
+            throw FalhaLeitura{e};
+        if (novo.size() < n)
+            throw FimInesperado{};  // the file shrank while it was read
+        bloco_ = std::move(novo);
+        p_ = bloco_.constData();
+        fim_ = p_ + bloco_.size();
+    }
+
     const char *p_;
     const char *fim_;
+    ArquivoLeitura *arquivo_ = nullptr;
+    QByteArray bloco_;
 };
 
 // The last text of each repeated field, for sharing.
@@ -265,19 +295,15 @@ char revisaoDoCabecalho(const QByteArray &dados)
 
 }  // namespace
 
-LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
+namespace {
+
+// Everything after the header, in the order of the file. On failure the
+// document is left untouched; an error of the disk itself comes out as
+// FalhaLeitura.
+LeituraLMT lerCampos(Leitor &l, char rev, LayoutDocumento &destino)
 {
     LeituraLMT r;
-    // A file too short to hold a header holds no layout of any revision.
-    const char rev = revisaoDoCabecalho(dados);
-    if (!rev) {
-        r.resultado = ResultadoLeitura::FormatoInvalido;
-        return r;
-    }
     r.revisao = rev;
-
-    Leitor l(dados);
-    l.bytes(kTamanhoCabecalho);
     LayoutDocumento doc;
     try {
         // An open layout always has a band: one without any is damaged.
@@ -341,6 +367,22 @@ LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
     }
     destino = std::move(doc);
     return r;
+}
+
+}  // namespace
+
+LeituraLMT LerLMT(const QByteArray &dados, LayoutDocumento &destino)
+{
+    // A file too short to hold a header holds no layout of any revision.
+    const char rev = revisaoDoCabecalho(dados);
+    if (!rev) {
+        LeituraLMT r;
+        r.resultado = ResultadoLeitura::FormatoInvalido;
+        return r;
+    }
+    Leitor l(dados);
+    l.bytes(kTamanhoCabecalho);
+    return lerCampos(l, rev, destino);
 }
 
 QByteArray GravarLMT(const LayoutDocumento &doc)
@@ -420,14 +462,18 @@ ResultadoArquivo AbrirArquivoLMT(const QString &caminho, LayoutDocumento &doc)
     // another kind costs 32 bytes.
     if (const ErroArquivo e = f.Ler(kTamanhoCabecalho, dados))
         return falhou(e);
-    if (!revisaoDoCabecalho(dados))
+    const char rev = revisaoDoCabecalho(dados);
+    if (!rev)
         return formatoInvalido();
-    if (const ErroArquivo e = f.Ler(f.Restante(), dados))
-        return falhou(e);
-    const LeituraLMT l = LerLMT(dados, doc);
+    // The rest is read as the fields ask for it.
+    Leitor leitor(f);
+    LeituraLMT l;
+    try {
+        l = lerCampos(leitor, rev, doc);
+    } catch (const FalhaLeitura &falha) {
+        return falhou(falha.erro);
+    }
     r.leitura = l.resultado;
-    if (l.resultado == ResultadoLeitura::FormatoInvalido)
-        return formatoInvalido();
     if (l.resultado == ResultadoLeitura::ErroLeitura) {
         r.ok = false;
         r.mensagem = MensagemErroAbrir(caminho, l.erro);

@@ -67,7 +67,7 @@ public:
     InterfaceUsuario *Ui = nullptr;  // must be set before any file command
 
     GanchosSessao Ganchos;
-    CanvasPagina Canvas;            // size of the page canvas, full-size flag
+    CanvasPagina Canvas{true};      // size of the page canvas, full-size flag; painted where shown
     RecursosCanvas Recursos;        // fonts, measured heights, pictures, symbols
     ResultadoRepintura UltimaRepintura;
     Unidade UnidadeAtual;           // factor, decimals and label of the unit setting

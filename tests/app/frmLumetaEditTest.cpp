@@ -1,3 +1,4 @@
+#include "app/gui/AvisosQt.h"
 #include "app/gui/Autor.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/frmLumetaEdit.h"
@@ -21,6 +22,8 @@
 #include <QTest>
 #include <QSettings>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
@@ -281,9 +284,9 @@ TEST(frmLumetaEdit, MenuConfigurarReconstroiOsCpyERecusaQuebraComRodape)
 TEST(frmLumetaEdit, CanvasPintaORodaRolaEAboutBox)
 {
     Janela j;
-    // The page picture is as large as the canvas and shows the layout.
-    EXPECT_EQ(j.janela.picPagina->size(), j.janela.Sessao().Canvas.Tamanho);
-    EXPECT_GE(j.janela.picPagina->width(), 1120);
+    // The page picture shows what the viewport holds of the canvas.
+    EXPECT_GE(j.janela.Sessao().Canvas.Tamanho.width(), 1120);
+    EXPECT_EQ(j.janela.picPagina->size(), j.janela.picContainer->size());
     const QImage img = j.janela.picPagina->grab(QRect(0, 0, 800, 200)).toImage();
     EXPECT_EQ(QColor(img.pixel(8, 20)), QColor(230, 230, 230));       // the item's cell outline
     EXPECT_EQ(QColor(img.pixel(776, 150)), QColor(0, 255, 255));      // portrait page marker
@@ -293,10 +296,12 @@ TEST(frmLumetaEdit, CanvasPintaORodaRolaEAboutBox)
     QScrollBar *v = j.janela.vsbPagina;
     ASSERT_GT(v->maximum(), 0);
     EXPECT_EQ(v->maximum(), 1120 - j.janela.picContainer->height());
+    v->setValue(10);  // the cell outline's row 20 now shows on row 10
+    EXPECT_EQ(QColor(j.janela.picPagina->grab(QRect(0, 0, 800, 200)).toImage().pixel(8, 10)), QColor(230, 230, 230));
     v->setValue(100);
-    EXPECT_EQ(j.janela.picPagina->y(), -100);
+    EXPECT_EQ(j.janela.picPagina->ParaCanvas(QPointF(3, 4)), QPoint(3, 104));
     j.janela.hsbPagina->setValue(j.janela.hsbPagina->maximum());
-    EXPECT_EQ(j.janela.picPagina->x(), -j.janela.hsbPagina->maximum());
+    EXPECT_EQ(j.janela.picPagina->Origem(), QPoint(j.janela.hsbPagina->maximum(), 100));
 
     // The wheel: one notch away scrolls up one step, towards the user down.
     auto roda = [&](int delta) {
@@ -375,4 +380,79 @@ TEST(frmLumetaEdit, PainelDeResultadoTrocaSoOTrechoAlteradoEGuardaALeitura)
     j.acao("mnuArquivoNovo")->trigger();
     EXPECT_EQ(pane->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts),
               QStringList({"QJ 92", "F 100000Arial", "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));
+}
+
+TEST(frmLumetaEdit, LayoutsNoLimiteAbremInteirosRolamAteOFimEEditamLa)
+{
+    // 32,767 bands of ten items: about 590,000 pixels of canvas.
+    LayoutDocumento limite;
+    Banda b;
+    b.Altura = 18;
+    for (int i = 0; i < 10; ++i)
+        b.Itens.append(teste::NovoItem(TipoTexto, QStringLiteral("Texto"), 0, 64));
+    limite.Bandas = QList<Banda>(32767, b);
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("limite.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(caminho, limite).ok);
+    {
+        Janela j({caminho});
+        ASSERT_TRUE(j.iniciado);
+        SessaoEdicao &s = j.janela.Sessao();
+        EXPECT_TRUE(j.ui.mensagens.isEmpty());
+        EXPECT_TRUE(s.Canvas.TamanhoTotal);
+        const Banda &ultima = s.Documento.banda(32767);
+        const int fundo = ultima.Topo + 18;
+        EXPECT_GE(s.Canvas.Tamanho.height(), fundo + 64);
+        EXPECT_LE(s.Canvas.Tamanho.height(), fundo + 384);
+        QScrollBar *v = j.janela.vsbPagina;
+        EXPECT_EQ(v->maximum(), s.Canvas.Tamanho.height() - j.janela.picContainer->height());
+        v->setValue(v->maximum());
+        QApplication::processEvents();
+
+        // The last band shows at the foot of the viewport; a click there
+        // selects its third item and Delete removes it.
+        PicPagina *pagina = j.janela.picPagina;
+        const QPoint celula = QPoint(8 + 2 * 64 + 20, ultima.Topo + 9) - pagina->Origem();
+        ASSERT_TRUE(pagina->rect().contains(celula));
+        EXPECT_EQ(QColor(pagina->grab().toImage().pixel(celula.x() - 20, celula.y())), QColor(230, 230, 230));
+        QTest::mouseClick(pagina, Qt::LeftButton, {}, celula);
+        ASSERT_EQ(s.BandaSelecionada, 32767);
+        ASSERT_EQ(s.ItemSelecionado, 3);
+        QTest::keyClick(pagina, Qt::Key_Delete);
+        EXPECT_EQ(s.Documento.banda(32767).NumItens(), 9);
+        EXPECT_EQ(v->value(), v->maximum());
+    }
+
+    // One changed byte: a band 1,778,384,986 pixels high. The window makes
+    // that canvas too, paints what shows at either end and says nothing.
+    const QString alta = dir.filePath(QStringLiteral("alta.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(alta, teste::LayoutBandaAltissima()).ok);
+    teste::ContadorMensagensQt avisos;
+    Janela j({alta});
+    ASSERT_TRUE(j.iniciado);
+    EXPECT_TRUE(j.ui.mensagens.isEmpty());
+    EXPECT_GT(j.janela.Sessao().Canvas.Tamanho.height(), 1778384986);
+    const QImage topo = j.janela.picPagina->grab().toImage();
+    j.janela.vsbPagina->setValue(j.janela.vsbPagina->maximum());
+    const QImage fim = j.janela.picPagina->grab().toImage();
+    EXPECT_NE(topo, fim);
+    EXPECT_EQ(avisos.total(), 0);
+}
+
+TEST(frmLumetaEdit, AvisosRepetidosDoQtNaoInundamASaidaDeErros)
+{
+    LimiteAvisos limite;
+    QStringList escritas;
+    for (int i = 0; i < 100000; ++i) {
+        const QString m = limite.Filtrar(QStringLiteral("QImage::setPixel: coordinate (%1,%2) out of range").arg(i).arg(i * 7));
+        if (!m.isEmpty())
+            escritas << m;
+    }
+    ASSERT_EQ(escritas.size(), LimiteAvisos::RepeticoesMostradas + 1);
+    EXPECT_TRUE(escritas.last().startsWith(QStringLiteral("(repetições desta mensagem omitidas)")));
+    // Another message still gets through; past the total nothing does.
+    EXPECT_FALSE(limite.Filtrar(QStringLiteral("outra")).isEmpty());
+    for (int i = 0; i < LimiteAvisos::TotalMostrado; ++i)
+        (void)limite.Filtrar(QStringLiteral("aviso ") + QChar(0x100 + i));
+    EXPECT_TRUE(limite.Filtrar(QStringLiteral("mais uma")).isEmpty());
 }

@@ -5,6 +5,7 @@
 #include "canvas/Unidades.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <tuple>
 
 using namespace lumeta;
@@ -53,6 +54,14 @@ TEST(Geometria, TamanhoInicialCrescimentoEMemoria)
     doc.Bandas[0].Itens[1].Largura = 5000;
     EXPECT_FALSE(c.CrescerLargura(doc));
 
+    // The window's canvas is painted only where it shows: any size passes.
+    CanvasPagina janela(true);
+    janela.LimiteMemoria = 1;
+    janela.TamanhoInicial(1120);
+    janela.Tamanho = QSize(1120, 2000000000);
+    EXPECT_TRUE(janela.VerificarMemoria());
+    EXPECT_TRUE(janela.TamanhoTotal);
+
     CanvasPagina d;
     d.TamanhoInicial(1120);
     d.Tamanho = QSize(1120, 9000);
@@ -62,6 +71,27 @@ TEST(Geometria, TamanhoInicialCrescimentoEMemoria)
     d.Tamanho = QSize(1200, 700);
     EXPECT_TRUE(d.GarantirImagem());
     EXPECT_EQ(d.Imagem.size(), QSize(1200, 700));
+}
+
+TEST(Geometria, RetanguloLimitadoNasPontasDoIntervalo)
+{
+    constexpr qint64 Max = std::numeric_limits<int>::max(), Min = std::numeric_limits<int>::min();
+    struct Caso {
+        qint64 x, largura;
+        int esquerda, direita;
+    } casos[] = {
+        {10, 5, 10, 14},                 // an ordinary rectangle as QRect has it
+        {Max - 1, 120, int(Max - 1), int(Max)},
+        {Min, 0, int(Min + 1), int(Min)},
+        {Min + 1, 3 * Max, int(Min + 1), -1},  // width stopped at 2^31 - 1
+        {0, -Max * 4, 0, int(Min)},
+        {5, -3, 5, 1},                   // negative sizes stay negative
+    };
+    for (const Caso &c : casos) {
+        const QRect r = RetanguloLimitado(c.x, c.x, c.largura, c.largura);
+        EXPECT_EQ(std::pair(r.left(), r.right()), std::pair(c.esquerda, c.direita)) << c.x << " " << c.largura;
+        EXPECT_EQ(std::pair(r.top(), r.bottom()), std::pair(c.esquerda, c.direita));
+    }
 }
 
 TEST(Geometria, RolarParaMostrarOItemSelecionado)

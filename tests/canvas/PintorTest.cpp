@@ -372,6 +372,41 @@ TEST(Pintor, CodigoDeBarrasAmpliadoEPosicionado)
     EXPECT_EQ(CaixaTinta(img, Exata(Preto), QRect(8, 16, 400, 300)).height(), CaixaTinta(pdf, Exata(Preto)).height() * 2);
 }
 
+TEST(Pintor, BarrasMaisAltasQueOSimboloDesenhadoSaemComoSeInteiras)
+{
+    // Bars stretched to a tall band (or a wide item when turned) are drawn
+    // from a shorter symbol whose middle row repeats: the canvas must show
+    // exactly the symbol drawn at full height, digits and guards included.
+    struct Caso {
+        uint8_t tipo;
+        const char *valor;
+        const char *atributos;
+    };
+    const Caso casos[] = {
+        {TipoEAN13, "\"789123456789\"", "0000000021"},  {TipoEAN13, "\"789123456789\"", "0000002001"},
+        {TipoCode128B, "\"ABC\"", "0000004001"},        {TipoCode39, "\"AB-1\"", "0000008001"},
+        {TipoInterlace25NumerosTopo, "\"1234\"", "0000000001"}, {TipoInterlace25SemNumeros, "\"1234\"", "0000002001"},
+        {TipoCode128C, "\"123456\"", "0000001001"},
+    };
+    for (const Caso &c : casos) {
+        Item it = Novo(QString::fromLatin1(c.valor), 300, c.tipo);
+        it.Atributos = QString::fromLatin1(c.atributos);
+        const int angulo = AnguloAtributos(it.Atributos);
+        const bool deitado = angulo == 90 || angulo == 270;
+        int banda = 700;
+        if (deitado)
+            std::swap(it.Largura, banda);
+        const int barras = AlturaBarrasCodigo(it, banda);
+        ASSERT_GT(barras, 600);
+        QString valor = it.Texto;
+        valor.remove(QLatin1Char('"'));
+        const QImage inteiro = DesenharCodigoBarras(c.tipo, valor, barras, MostrarDigitosCodigo(it), angulo);
+        const int mag = MagnificacaoAtributos(it.Atributos);
+        EXPECT_TRUE(Mostra(Pintar(UmaBanda(it, banda)), QPoint(8, 16), inteiro, deitado ? 1 : mag, deitado ? mag : 1))
+            << c.tipo << " " << c.atributos;
+    }
+}
+
 TEST(Pintor, BarraDeGrafico)
 {
     Item it = Novo(QStringLiteral("\"25\""), 64, TipoBarraGrafico);

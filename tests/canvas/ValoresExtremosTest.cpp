@@ -9,6 +9,8 @@
 #include "support/ConfigTemporaria.h"
 #include "support/TestSupport.h"
 
+#include <QPainter>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <limits>
@@ -28,6 +30,15 @@ Banda BandaDe(int32_t altura, int32_t deslocamento, std::initializer_list<int32_
     for (int32_t l : larguras)
         b.Itens.append(teste::NovoItem(tipo, QStringLiteral("\"12\""), 0, l));
     return b;
+}
+
+// The black pixels of the EAN-13 symbol's columns in one row.
+QByteArray Linha(const QImage &img, int y)
+{
+    QByteArray r;
+    for (int x = 8; x < 8 + 200; ++x)
+        r.append(img.pixel(x, y) == qRgb(0, 0, 0) ? '#' : '.');
+    return r;
 }
 
 }  // namespace
@@ -61,4 +72,46 @@ TEST(ValoresExtremos, PosicoesParamNosLimitesEOLayoutAbre)
         editor.ConcluirEdicao();
     }
     EXPECT_EQ(RolarParaSelecao(d, 1, 2, QPoint(0, 0), QSize(800, 600), QPoint(5000, 5000)), QPoint(5000, 5000));
+}
+
+TEST(ValoresExtremos, BandaAltissimaPintadaSoNoQueSeVeSemAvisos)
+{
+    LayoutDocumento doc = teste::LayoutBandaAltissima();
+    const qint64 fundo = 16 + qint64(1778384986);
+    {
+        teste::ContadorMensagensQt avisos;
+        CanvasPagina canvas;
+        canvas.TamanhoInicial(1000);
+        RecursosCanvas recursos;
+        const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);
+        EXPECT_TRUE(r.memoriaInsuficiente);
+        EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
+        // The bars run down the whole picture.
+        EXPECT_EQ(Linha(canvas.Imagem, 20), Linha(canvas.Imagem, 2000));
+        EXPECT_TRUE(Linha(canvas.Imagem, 2000).contains('#'));
+
+        // A window on the band's far end shows the symbols' digits below
+        // their bars, as a window scrolled there paints it.
+        QImage fim(400, 200, QImage::Format_RGB32);
+        QPainter p(&fim);
+        const QRect area(0, int(fundo - 150), 400, 200);
+        p.translate(-area.topLeft());
+        PintarLayout(p, doc, area, recursos);
+        p.end();
+        EXPECT_EQ(Linha(fim, 0), Linha(canvas.Imagem, 2000));
+        EXPECT_NE(Linha(fim, 144), Linha(fim, 0));
+        EXPECT_TRUE(Linha(fim, 144).contains('#'));
+        EXPECT_EQ(avisos.total(), 0);
+    }
+
+    // The command-line picture: the fallback canvas and one line of message.
+    QTemporaryDir dir;
+    const QString lmt = dir.filePath(QStringLiteral("alta.lmt")), png = dir.filePath(QStringLiteral("alta.png"));
+    ASSERT_TRUE(GravarArquivoLMT(lmt, doc).ok);
+    QProcess cli;
+    cli.start(QStringLiteral(LUMETA_CLI), {QStringLiteral("png"), lmt, png});
+    ASSERT_TRUE(cli.waitForFinished(60000));
+    EXPECT_EQ(cli.exitCode(), 0);
+    EXPECT_EQ(QString::fromUtf8(cli.readAllStandardError()).trimmed(), MensagemMemoriaInsuficiente);
+    EXPECT_EQ(QImage(png).size(), QSize(2016, 2016));
 }

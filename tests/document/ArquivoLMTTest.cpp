@@ -349,3 +349,47 @@ TEST(ArquivoLMT, LayoutAlemDosLimitesNaoEhGravadoEOArquivoAntigoFica)
     ASSERT_TRUE(AbrirArquivoLMT(s.NomeArquivo, lido).ok);
     EXPECT_EQ(lido.banda(1).Itens[0].Texto.size(), MaximoTexto);
 }
+
+namespace {
+
+// Bytes this process has read through read() and its kin so far.
+qint64 BytesLidosPeloProcesso()
+{
+    QFile io(QStringLiteral("/proc/self/io"));
+    if (!io.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &linha : io.readAll().split('\n'))
+        if (linha.startsWith("rchar:"))
+            return linha.mid(6).trimmed().toLongLong();
+    return -1;
+}
+
+}  // namespace
+
+TEST(ArquivoLMT, ArquivoLidoAosBlocosSemCarregarOQueSegueOUltimoCampo)
+{
+    // Many blocks' worth of layout, with long texts that straddle the blocks,
+    // followed by a gigabyte of zeros (sparse: nothing lands on the disk).
+    SessaoEdicao s;
+    for (int i = 0; i < 300; ++i)
+        s.AddBanda(0, false, 30, 100);
+    for (Banda &b : s.Documento.Bandas)
+        b.Itens[0].Texto = QString(997, QLatin1Char('y'));
+    s.Documento.MargemInferior = QStringLiteral("WS-FIM");
+    const QByteArray dados = GravarLMT(s.Documento);
+    QTemporaryDir dir;
+    const QString caminho = dir.filePath(QStringLiteral("longo.lmt"));
+    teste::GravarArquivoTeste(caminho, dados);
+    const qint64 cauda = qint64(1) << 30;
+    ASSERT_TRUE(QFile::resize(caminho, dados.size() + cauda));
+
+    const qint64 antes = BytesLidosPeloProcesso();
+    ASSERT_GE(antes, 0);
+    LayoutDocumento lido;
+    ASSERT_TRUE(AbrirArquivoLMT(caminho, lido).ok);
+    EXPECT_LT(BytesLidosPeloProcesso() - antes, dados.size() + 256 * 1024);
+    LayoutDocumento esperado;
+    ASSERT_EQ(LerLMT(dados, esperado).resultado, ResultadoLeitura::Ok);
+    EXPECT_EQ(lido, esperado);
+    EXPECT_EQ(lido.MargemInferior, QStringLiteral("WS-FIM"));
+}

@@ -25,6 +25,20 @@ struct Bytes {
 // item has it.
 Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura);
 
+// A good layout with one byte changed: its first band, full of symbols
+// stretched to the band, a graph bar and text, is 1,778,384,986 pixels high;
+// a second, ordinary band follows it.
+LayoutDocumento LayoutBandaAltissima();
+
+// Counts Qt's messages (warnings and the like) while it lives, and keeps
+// them off standard error.
+class ContadorMensagensQt {
+public:
+    ContadorMensagensQt();
+    ~ContadorMensagensQt();
+    int total() const;
+};
+
 QString CaminhoDados(const QString &nome);
 QByteArray LerArquivo(const QString &caminho);
 void GravarArquivoTeste(const QString &caminho, const QByteArray &dados);

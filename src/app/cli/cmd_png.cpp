@@ -11,6 +11,8 @@ namespace lumeta::cli {
 
 namespace {
 
+constexpr qint64 LimiteMemoriaFiguraCli = qint64(256) << 20;
+
 const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
     "Grava em SAIDA.png o desenho do layout na página, como o editor o exibe\n"
     "(tamanho total, alturas automáticas calculadas, sem as marcas de seleção).",
@@ -24,6 +26,10 @@ const ComandoCli png(40, "png", "png ARQUIVO.lmt SAIDA.png",
         if (!CarregarLayout(args[0], doc, recursos, io))
             return 1;
         CanvasPagina canvas;
+        // The picture is held whole here, unlike the window's: past this a
+        // canvas falls back to 2016 x 2016 with the editor's message, so a
+        // layout with huge numbers costs what an ordinary one does.
+        canvas.LimiteMemoria = LimiteMemoriaFiguraCli;
         const QScreen *tela = QGuiApplication::primaryScreen();
         canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
         const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);

@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPaintEvent>
+#include <cstdlib>
 
 namespace lumeta {
 
@@ -29,9 +30,25 @@ PicPagina::PicPagina(SessaoEdicao &sessao, QWidget *pai) : QWidget(pai), m_sessa
 void PicPagina::paintEvent(QPaintEvent *e)
 {
     QPainter p(this);
-    PintarLayout(p, m_sessao.Documento, e->rect(), m_sessao.Recursos);
-    PintarMarcasEdicao(p, m_sessao, e->rect());
+    p.translate(-m_origem);
+    const QRect area = e->rect().translated(m_origem);
+    PintarLayout(p, m_sessao.Documento, area, m_sessao.Recursos);
+    PintarMarcasEdicao(p, m_sessao, area);
     m_marcas = AreaMarcasEdicao(m_sessao);
+}
+
+void PicPagina::DefinirOrigem(QPoint origem)
+{
+    const QPoint passo = m_origem - origem;
+    if (passo.isNull())
+        return;
+    m_origem = origem;
+    // Within a screenful the pixels shown are moved and only the strip
+    // uncovered is painted.
+    if (std::abs(qint64(passo.x())) < width() && std::abs(qint64(passo.y())) < height())
+        scroll(passo.x(), passo.y());
+    else
+        update();
 }
 
 void PicPagina::AtualizarMarcas()
@@ -43,7 +60,7 @@ void PicPagina::AtualizarMarcas()
 void PicPagina::mousePressEvent(QMouseEvent *e)
 {
     setFocus(Qt::MouseFocusReason);
-    const ReacaoMouse r = PressionarCanvas(m_sessao, ParaCanvas(e->position()), e->button(), e->modifiers());
+    const ReacaoMouse r = PressionarCanvas(m_sessao, ParaCanvasF(e->position()), e->button(), e->modifiers());
     AtualizarMarcas();
     if (r == ReacaoMouse::MenuEditar)
         emit MenuEditar(e->globalPosition().toPoint());
@@ -51,7 +68,9 @@ void PicPagina::mousePressEvent(QMouseEvent *e)
 
 void PicPagina::mouseMoveEvent(QMouseEvent *e)
 {
-    MoverCanvas(m_sessao, ParaCanvas(e->position()), e->buttons(), e->modifiers());
+    MoverCanvas(m_sessao, ParaCanvasF(e->position()), e->buttons(), e->modifiers());
+    if (e->buttons() != Qt::NoButton)
+        AtualizarMarcas();   // the rubber frame of a range drag follows the pointer
 }
 
 void PicPagina::mouseReleaseEvent(QMouseEvent *e)

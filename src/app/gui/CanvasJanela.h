@@ -1,7 +1,9 @@
 #pragma once
-// The page canvas of the main window: the page picture `picPagina`, as large
-// as the canvas, inside the viewport `picContainer`; the scroll bars move the
-// page inside the viewport.
+// The page canvas of the main window: the page picture `picPagina` inside the
+// viewport `picContainer`. The page widget is only as large as what the
+// viewport shows of the canvas and paints the canvas from its origin on, so a
+// canvas of any height (past what a widget may measure) scrolls like a page
+// moved inside the viewport; the scroll bars set the origin.
 
 #include "editing/SessaoEdicao.h"
 
@@ -20,8 +22,14 @@ public:
 
     // Widget coordinates to canvas pixels and back: the one place that
     // knows how the page is shown (a zoom would change only these).
-    static QPoint ParaCanvas(QPointF p) { return p.toPoint(); }
-    static QRect ParaWidget(const QRect &r) { return r; }
+    QPoint ParaCanvas(QPointF p) const { return p.toPoint() + m_origem; }
+    QPointF ParaCanvasF(QPointF p) const { return p + QPointF(m_origem); }
+    QRect ParaWidget(const QRect &r) const { return r.translated(-m_origem); }
+
+    // The canvas point shown at the widget's top-left corner (the scroll
+    // bars' values); what stays in view is moved, the rest painted.
+    QPoint Origem() const { return m_origem; }
+    void DefinirOrigem(QPoint origem);
 
     // Repaints the editing marks where they were and where they are now.
     void AtualizarMarcas();
@@ -42,6 +50,7 @@ protected:
 private:
     SessaoEdicao &m_sessao;
     QRect m_marcas;   // what the marks covered at the last paint
+    QPoint m_origem;
 };
 
 class PicContainer : public QWidget {

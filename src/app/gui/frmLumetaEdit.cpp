@@ -573,8 +573,10 @@ void frmLumetaEdit::criarJanela()
     lCanvas->addWidget(rolagemPainel, 0, 2, 2, 1);
     painel->setCanvas(picPagina);
     // Every change of a bar, also while its thumb is dragged, moves the page.
-    connect(hsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(-v, picPagina->y()); });
-    connect(vsbPagina, &QScrollBar::valueChanged, this, [this](int v) { picPagina->move(picPagina->x(), -v); });
+    connect(hsbPagina, &QScrollBar::valueChanged, this,
+            [this](int v) { picPagina->DefinirOrigem(QPoint(v, picPagina->Origem().y())); });
+    connect(vsbPagina, &QScrollBar::valueChanged, this,
+            [this](int v) { picPagina->DefinirOrigem(QPoint(picPagina->Origem().x(), v)); });
     connect(picContainer, &PicContainer::Redimensionado, this, &frmLumetaEdit::AtualizarRolagem);
     connect(picPagina, &PicPagina::MenuEditar, this, [this](const QPoint &p) { mnuEditar->popup(p); });
     connect(picPagina, &PicPagina::Rolar, this, [this](int acao) {
@@ -654,10 +656,7 @@ void frmLumetaEdit::ligarSessao()
 {
     GanchosSessao &g = m_sessao.Ganchos;
     g.Pintar = [this](const ResultadoRepintura &) {
-        if (picPagina->size() != m_sessao.Canvas.Tamanho) {
-            picPagina->resize(m_sessao.Canvas.Tamanho);
-            AtualizarRolagem();
-        }
+        AtualizarRolagem();
         picPagina->update();
     };
     g.MostrarResultado = [this](const QString &t) {
@@ -694,7 +693,7 @@ void frmLumetaEdit::ligarSessao()
     g.JanelaHabilitada = [this] { return isEnabled(); };
     g.Encerrar = [this] { encerrar(); };
     // The canvas and the result pane show the document the session already holds.
-    picPagina->resize(m_sessao.Canvas.Tamanho);
+    AtualizarRolagem();
     mostrarTextoResultado(m_sessao.TextoResultado);
     connect(qApp, &QApplication::focusChanged, this, [this] { prepararMenuEditar(); });
     atualizarUnidade();
@@ -706,7 +705,6 @@ bool frmLumetaEdit::Iniciar(const QStringList &argumentos)
 {
     const QScreen *tela = screen() ? screen() : QGuiApplication::primaryScreen();
     m_sessao.Canvas.TamanhoInicial(tela ? tela->geometry().width() : 0);
-    picPagina->resize(m_sessao.Canvas.Tamanho);
     AtualizarRolagem();
     if (!m_sessao.Iniciar(argumentos, PastaPrograma(), QCoreApplication::applicationFilePath())) {
         m_encerrado = true;
@@ -828,7 +826,11 @@ void frmLumetaEdit::AtualizarRolagem()
     vsbPagina->setMaximum(maximo.y());
     hsbPagina->setPageStep(std::max(1, picContainer->width()));
     vsbPagina->setPageStep(std::max(1, picContainer->height()));
-    picPagina->move(-hsbPagina->value(), -vsbPagina->value());
+    // The page shows what the viewport holds of the canvas, from the bars' values on.
+    const QSize canvas = m_sessao.Canvas.Tamanho;
+    picPagina->setGeometry(0, 0, std::min(canvas.width(), picContainer->width()),
+                           std::min(canvas.height(), picContainer->height()));
+    picPagina->DefinirOrigem(QPoint(hsbPagina->value(), vsbPagina->value()));
 }
 
 void frmLumetaEdit::RolarCanvas(DirecaoRolagem direcao)

@@ -1,0 +1,56 @@
+// Reads arbitrary bytes as a layout and paints what reads into a small
+// picture, as the window and the command line would: the top of the canvas
+// and the top of the last band, where a layout of huge numbers ends. Neither
+// may take more than a small picture's memory, walk pixels outside an image
+// or flood Qt's messages (more than a few per input is a finding).
+#include "canvas/Pintor.h"
+#include "document/ArquivoLMT.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+int g_mensagens = 0;
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QGuiApplication app(*argc, *argv);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++g_mensagens; });
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    using namespace lumeta;
+    static RecursosCanvas recursos;
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), qsizetype(size));
+    LayoutDocumento doc;
+    if (LerLMT(bytes, doc).resultado != ResultadoLeitura::Ok)
+        return 0;
+    g_mensagens = 0;
+    PrepararLayoutAberto(doc, recursos.Medidor);
+    CanvasPagina canvas;
+    canvas.TamanhoInicial(1000);
+    (void)PrepararRepintura(doc, 1, canvas, recursos);
+
+    QImage figura(160, 120, QImage::Format_RGB32);
+    QList<QPoint> origens = {QPoint(0, 0)};
+    if (doc.NumBandas() > 0)
+        origens.append(QPoint(0, std::min(doc.Bandas.last().Topo, std::numeric_limits<int>::max() - figura.height())));
+    for (const QPoint &o : origens) {
+        QPainter p(&figura);
+        p.translate(-o);
+        const OpcoesPintura op{true, doc.NumBandas(), 1};
+        PintarLayout(p, doc, QRect(o, figura.size()), recursos, op);
+    }
+    if (g_mensagens > 16)
+        std::abort();
+    return 0;
+}

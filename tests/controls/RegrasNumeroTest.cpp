@@ -105,12 +105,10 @@ TEST_F(RegrasNumeroTest, ExibicaoAoPerderOFocoEscapeEVazio)
     EXPECT_EQ(r.Texto, QStringLiteral("1.234.567,5"));
 
     r.SeparadorMilhar = false;
-    r.DefinirValor(1234567);
-    EXPECT_EQ(r.Texto, QStringLiteral("1234567"));
+    EXPECT_EQ(r.Exibicao(1234567), QStringLiteral("1234567"));
     r.ManterDecimais = true;
     r.DefinirFormato(6.2);
-    r.DefinirValor(12);
-    EXPECT_EQ(r.Texto, QStringLiteral("12,00"));
+    EXPECT_EQ(r.Exibicao(12), QStringLiteral("12,00"));
     // A trailing separator left by the user goes with the display format.
     r.ManterDecimais = false;
     r.GanharFoco();

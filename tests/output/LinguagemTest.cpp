@@ -77,23 +77,20 @@ TEST_F(PastaLinguagensTeste, NovaLinguagemGravaOsPadroesByteAByteELeDeVolta)
     // One byte a character: "§" is A7 and "á" E1, never two UTF-8 bytes.
     EXPECT_TRUE(gravado.contains(QByteArray("\xA7i = It\xE1lico 9(1)\r\n")));
 
+    // Read back: the defaults, "cobol" in the name; STRING is a user setting, not in the file.
     LinguagemDef lida;
     lida.CobolString = false;
     ASSERT_TRUE(LerLinguagem(QStringLiteral("Cobol ANSI"), lida, &ui));
-    EXPECT_TRUE(ui.mensagens.isEmpty());
-    EXPECT_TRUE(lida.EhCobol);
-    EXPECT_FALSE(lida.CobolString);  // a user setting, not part of the file
     LinguagemDef padrao = LinguagemPadrao();
     padrao.EhCobol = true;
     padrao.CobolString = false;
     EXPECT_EQ(lida, padrao);
-
     // A name without "cobol" clears the flag on the next read.
     ASSERT_TRUE(NovaLin(QStringLiteral("Clipper"), lida, &ui));
-    EXPECT_FALSE(lida.EhCobol);
     lida.EhCobol = true;
     ASSERT_TRUE(LerLinguagem(QStringLiteral("Clipper"), lida, &ui));
     EXPECT_FALSE(lida.EhCobol);
+    EXPECT_TRUE(ui.mensagens.isEmpty());
 }
 
 TEST_F(PastaLinguagensTeste, ModelosVaziosEAcentuadosNoArquivoEGravacaoQueSubstitui)

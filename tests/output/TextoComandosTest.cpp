@@ -1,6 +1,5 @@
 // The command text line by line. The rich layout of the COBOL proof is pinned
 // whole in CobolFimAFimTest; here, what that layout does not reach.
-#include "editing/SessaoEdicao.h"
 #include "output/TextoComandos.h"
 #include "support/TestSupport.h"
 
@@ -21,24 +20,13 @@ QStringList Linhas(const LayoutDocumento &d)
 
 }  // namespace
 
-TEST(TextoComandos, ExemploMolduraTipoDeEmailEMargens)
+TEST(TextoComandos, TipoDeEmailEMargens)
 {
-    SessaoEdicao s;
-    Item &it = s.Documento.banda(1).Itens[0];
-    it.Texto = QStringLiteral("Total");
-    it.Largura = 200;
-    LayoutDocumento d = s.Documento;
-    EXPECT_EQ(GerarTextoComandos(d), QStringLiteral("QJ 92\r\nF 100000Arial\r\nT 009900002001960000100010Total\r\n"
-                                                    "RH 00018\r\nQL\r\n"));
-    d.banda(1).Itens[0].Linhas = QStringLiteral("0100000000");
-    d.banda(1).Itens[0].CorLinha = 12;
-    d.banda(1).Itens[0].Espessura = 3;
-    EXPECT_EQ(Linhas(d)[2], QStringLiteral("L 12990000000200010000000003"));
-
+    LayoutDocumento d;
     d.QualidadeJPG = 75;
     for (auto [tipo, linha] : {std::pair{1, "QJ 75"}, {2, "EE"}, {3, "EG"}, {4, "EP 75"}, {5, "EW"}, {0, "QJ 75"}, {9, "QJ 75"}}) {
         d.TipoEmail = int16_t(tipo);
-        EXPECT_EQ(Linhas(d)[0], QString::fromLatin1(linha)) << tipo;
+        EXPECT_EQ(Linhas(d), QStringList{QString::fromLatin1(linha)}) << tipo;
     }
     // Quoted margins are whole millimetres, half away from zero; no digits gives 0.
     for (auto [margem, valor] : {std::pair{"\"2.5\"", "003"}, {"\"-2.5\"", "-003"}, {"\"abc\"", "000"},

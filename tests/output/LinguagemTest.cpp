@@ -172,13 +172,6 @@ TEST_F(PastaLinguagensTeste, ArquivosHostisDaoAsMensagensSemQuebrar)
         EXPECT_TRUE(mensagens.isEmpty());
     }
 
-    // A missing file.
-    LinguagemDef def;
-    EXPECT_FALSE(LerLinguagem(QStringLiteral("nenhuma"), def, &ui));
-    EXPECT_EQ(ui.mensagens.value(0).texto,
-              QStringLiteral("O Arquivo '") + caminho(QStringLiteral("nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
-    mensagemUnica(QStringLiteral("O Arquivo '"), Icone::Exclamacao);
-
     // Random garbage, and random cuts of a valid file: a message or success, never a crash.
     QRandomGenerator rng(20240611);
     const QByteArray valido = CodificarLin(LinguagemPadrao());

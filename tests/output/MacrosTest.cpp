@@ -24,7 +24,6 @@ TEST(Macros, VariavelDeCabecalhoERodapeLeDoisDigitos)
     for (auto [digitos, macro] : {std::pair{"7", "(%_07_%)"}, std::pair{" 5", "(%_05_%)"}, std::pair{"123", "(%_12_%)"},
                                   std::pair{"x", "(%_00_%)"}, std::pair{"4x", "(%_04_%)"}, std::pair{"", ""}})
         EXPECT_EQ(MacroVariavel(QString::fromLatin1(digitos)), QString::fromLatin1(macro)) << digitos;
-    EXPECT_EQ(TabelaMacros()[0].macro, std::string("(%_pag_%)"));
     EXPECT_EQ(QString::fromUtf8(TabelaMacros()[12].legenda), QStringLiteral("Variável de cabeçalho e rodapé"));
     EXPECT_TRUE(PerguntaVariavelMacro().endsWith(QStringLiteral("Ex.: 01 Valor\n\nDigite o número da variável (00 até 99):")));
 }

@@ -75,58 +75,44 @@ TEST(CopiarComo, ExemploDoMoveCurtoMantidoELongoQuebradoNasDuasFormas)
 
 TEST(QuebrarLinhasCobol, LimitesAspasCaudaELinhasIncompletas)
 {
-    // Exactly 72 stays; 73 is cut. Text after the last line end is dropped.
-    const QString l72 = em(11) + QStringLiteral("move \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\" to X");
-    ASSERT_EQ(l72.size(), 72);
-    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF + QStringLiteral("resto sem fim de linha"), false), l72 + kCRLF);
-    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("sem fim de linha"), false), QString());
-    EXPECT_EQ(QuebrarLinhasCobol(kCRLF + kCRLF, true), linhas({QString(), QString()}));
-
-    // In the STRING form the limit is 71, so the same line becomes a STRING
-    // statement whose one literal already fits.
-    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces to X"),
-                      em(11) + QStringLiteral("string \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into X")}));
-
-    // A long line without a literal is left long, "move" and all.
+    const auto x = [](int n, char c) { return QString(n, QLatin1Char(c)); };
+    const QString cont = QStringLiteral("      -    \""), l72 = em(11) + "move \"" + x(49, 'a') + "\" to X";
     const QString semAspas = em(11) + QStringLiteral("MOVE WS-CAMPO-COM-NOME-BEM-COMPRIDO-DEMAIS TO WS-OUTRO-CAMPO-MUITO-LONGO");
-    ASSERT_GT(semAspas.size(), 72);
-    EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, true), semAspas + kCRLF);
-
-    // Upper-case MOVE and TO are found; several cuts for a long literal.
-    const QString longa = em(11) + QStringLiteral("MOVE \"") + QString(150, QLatin1Char('x')) + QStringLiteral("\" TO WS-V");
-    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, false),
-              linhas({em(11) + QStringLiteral("MOVE \"") + QString(55, QLatin1Char('x')),
-                      QStringLiteral("      -    \"") + QString(60, QLatin1Char('x')),
-                      QStringLiteral("      -    \"") + QString(35, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" TO WS-V")}));
-    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces TO WS-V"),
-                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(11) + QStringLiteral("\"") + QString(59, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(11) + QStringLiteral("\"") + QString(39, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into WS-V")}));
-
-    // A cut that leaves only the closing quote: an empty literal is not
-    // written in the STRING form; the continuation line keeps it, because
-    // without it the literal would stay open.
-    const QString ate72 = em(11) + QStringLiteral("move \"") + QString(55, QLatin1Char('b')) + QStringLiteral("\" to Y");
-    EXPECT_EQ(QuebrarLinhasCobol(ate72 + kCRLF, false),
-              linhas({ate72.left(72), QStringLiteral("      -    \"\""), em(14) + QStringLiteral(" to Y")}));
-    const QString ate71 = em(11) + QStringLiteral("move \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\" to Y");
-    EXPECT_EQ(QuebrarLinhasCobol(ate71 + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces to Y"),
-                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into Y")}));
-
-    // A literal that ends the line has no tail; lines of a multi-line text
-    // are treated one by one.
-    const QString semCauda = em(11) + QStringLiteral("display \"") + QString(70, QLatin1Char('d')) + QStringLiteral("\"");
-    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("curta") + kCRLF + semCauda + kCRLF + QStringLiteral("fim") + kCRLF, false),
-              linhas({QStringLiteral("curta"), semCauda.left(72),
-                      QStringLiteral("      -    \"") + QString(18, QLatin1Char('d')) + QStringLiteral("\""),
-                      QStringLiteral("fim")}));
+    const QString longa = em(11) + "MOVE \"" + x(150, 'x') + "\" TO WS-V", ate72 = em(11) + "move \"" + x(55, 'b') + "\" to Y";
+    const QString semCauda = em(11) + "display \"" + x(70, 'd') + "\"";
+    const struct {
+        QString entrada;
+        bool string;
+        QString saida;
+    } casos[] = {
+        // Exactly 72 stays; text after the last line end is dropped.
+        {l72 + kCRLF + "resto sem fim de linha", false, l72 + kCRLF},
+        {"sem fim de linha", false, QString()},
+        {kCRLF + kCRLF, true, linhas({QString(), QString()})},
+        // In the STRING form the limit is 71: the same line becomes a STRING
+        // statement whose one literal already fits.
+        {l72 + kCRLF, true, linhas({em(11) + "move spaces to X", em(11) + "string \"" + x(49, 'a') + "\"",
+                                    em(14) + " delimited by size into X"})},
+        // A long line without a literal is left long, "move" and all.
+        {semAspas + kCRLF, true, semAspas + kCRLF},
+        // Upper-case MOVE and TO are found; several cuts for a long literal.
+        {longa + kCRLF, false, linhas({em(11) + "MOVE \"" + x(55, 'x'), cont + x(60, 'x'), cont + x(35, 'x') + "\"",
+                                       em(14) + " TO WS-V"})},
+        {longa + kCRLF, true, linhas({em(11) + "move spaces TO WS-V", em(11) + "string \"" + x(52, 'x') + "\"",
+                                      em(11) + "\"" + x(59, 'x') + "\"", em(11) + "\"" + x(39, 'x') + "\"",
+                                      em(14) + " delimited by size into WS-V"})},
+        // A cut that leaves only the closing quote: the continuation line keeps
+        // it, or the literal would stay open; the STRING form writes no empty literal.
+        {ate72 + kCRLF, false, linhas({ate72.left(72), cont + "\"", em(14) + " to Y"})},
+        {em(11) + "move \"" + x(52, 'c') + "\" to Y" + kCRLF, true,
+         linhas({em(11) + "move spaces to Y", em(11) + "string \"" + x(52, 'c') + "\"", em(14) + " delimited by size into Y"})},
+        // A literal that ends the line has no tail; lines are treated one by one.
+        {"curta" + kCRLF + semCauda + kCRLF + "fim" + kCRLF, false,
+         linhas({QStringLiteral("curta"), semCauda.left(72), cont + x(18, 'd') + "\"", QStringLiteral("fim")})},
+    };
+    ASSERT_EQ(l72.size(), 72);
+    for (const auto &c : casos)
+        EXPECT_EQ(QuebrarLinhasCobol(c.entrada, c.string), c.saida) << c.entrada.toStdString();
 }
 
 TEST(CopiarComo, MarcadoresOrdemDeTrocaComentariosELinhasSoltas)

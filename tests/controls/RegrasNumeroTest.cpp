@@ -1,5 +1,6 @@
+// The numeric field's rules: keys typed over a text and a selection, the
+// display form on leaving the field, Escape, emptiness and pasting.
 #include "controls/RegrasNumero.h"
-#include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
 #include <tuple>
@@ -10,52 +11,69 @@ namespace {
 
 class RegrasNumeroTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        anterior = QLocale();
-        QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
-    }
+    void SetUp() override { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
     void TearDown() override { QLocale::setDefault(anterior); }
-
-    // Types every character of `teclas` with the caret at the end, after the
-    // field took the focus with the whole text selected and replaced.
-    static EfeitoTecla Digitar(RegrasNumero &r, const QString &teclas)
-    {
-        EfeitoTecla ultimo = EfeitoTecla::Consumida;
-        for (QChar k : teclas)
-            ultimo = r.Tecla(k);
-        return ultimo;
-    }
-    static void Cursor(RegrasNumero &r, int pos, int tamanho = 0)
-    {
-        r.InicioSelecao = pos;
-        r.TamanhoSelecao = tamanho;
-    }
     QLocale anterior;
 };
 
 }  // namespace
 
-TEST_F(RegrasNumeroTest, LimitesDeDigitosDoFormato)
+TEST_F(RegrasNumeroTest, TeclasSobreTextoESelecao)
 {
-    RegrasNumero r;   // 6.6
-    r.GanharFoco();
-    EXPECT_EQ(Digitar(r, QStringLiteral("123456")), EfeitoTecla::Consumida);
-    EXPECT_EQ(r.Tecla(u'7'), EfeitoTecla::Recusada);
-    EXPECT_EQ(r.Texto, QStringLiteral("123456"));
-    EXPECT_EQ(r.Valor(), 123456);
-
-    r.Texto = QStringLiteral("0");
-    Cursor(r, 1);
-    r.TextoAlterado();
-    Digitar(r, QStringLiteral(",123456"));
-    EXPECT_EQ(r.Texto, QStringLiteral("0,123456"));
-    EXPECT_EQ(r.Tecla(u'7'), EfeitoTecla::Recusada);
-    EXPECT_DOUBLE_EQ(r.Valor(), 0.123456);
-    // A digit with a selection replaces it even at the limit.
-    Cursor(r, 2, 6);
-    EXPECT_EQ(r.Tecla(u'9'), EfeitoTecla::Consumida);
-    EXPECT_EQ(r.Texto, QStringLiteral("0,9"));
+    struct Caso {
+        double formato;
+        bool sinal;
+        const char *texto;
+        int inicio, tamanho;
+        const char *teclas;
+        const char *resultado;
+        EfeitoTecla ultima;
+        int selInicio = -1, selTamanho = -1;
+    };
+    const auto C = EfeitoTecla::Consumida, R = EfeitoTecla::Recusada;
+    const Caso casos[] = {
+        {6.6, false, "0", 0, 1, "1234567", "123456", R},              // six integer digits at most
+        {6.6, false, "0", 1, 0, ",1234567", "0,123456", R},           // and six decimals
+        {6.6, false, "0,123456", 2, 6, "9", "0,9", C},                // a selection is replaced even at the limit
+        {4.0, false, "12", 1, 0, ",", "12", C},                       // no decimals: the separator does nothing
+        // The separator goes to the caret, moving rather than doubling; a
+        // zero fills an empty side; over everything it gives 0,0.
+        {6.6, false, "1234", 2, 0, ".", "12,34", C, 3, 2},
+        {6.6, false, "12,34", 1, 0, ",", "1,234", C},
+        {6.6, false, "1,234", 0, 0, ",", "0,1234", C},
+        {6.6, false, "0,1234", 6, 0, ",", "01234,0", C},
+        {6.6, false, "01234,0", 0, 7, ",", "0,0", C, 2, 1},
+        {6.6, false, "12,5", 1, 2, ",", "1,5", C},                    // a selected separator is deleted first
+        // A sign only when allowed; it keeps the digits selected.
+        {6.6, false, "15", 2, 0, "-", "15", R},
+        {6.6, false, "15", 2, 0, "a", "15", R},
+        {6.6, true, "15", 2, 0, "-", "-15", C, 1, 2},
+        {6.6, true, "-15", 3, 0, "+", "15", C, 0, 2},
+        {6.6, false, "15", 2, 0, "\r", "15", EfeitoTecla::Passa},
+        {6.6, false, "42", 0, 2, "\b", "0", C},                       // emptied: a zero
+    };
+    for (const Caso &c : casos) {
+        SCOPED_TRACE(std::string(c.texto) + " <- " + c.teclas);
+        RegrasNumero r;
+        r.DefinirFormato(c.formato);
+        r.PermitirSinal = c.sinal;
+        r.Texto = QString::fromLatin1(c.texto);
+        r.TextoAlterado();
+        r.InicioSelecao = c.inicio;
+        r.TamanhoSelecao = c.tamanho;
+        EfeitoTecla ultima = C;
+        for (const char k : std::string(c.teclas))
+            ultima = r.Tecla(QLatin1Char(k));
+        EXPECT_EQ(r.Texto, QString::fromLatin1(c.resultado));
+        EXPECT_EQ(ultima, c.ultima);
+        EXPECT_DOUBLE_EQ(r.Valor(), QLocale().toDouble(r.Texto));
+        if (c.selInicio >= 0) {
+            EXPECT_EQ(std::pair(r.InicioSelecao, r.TamanhoSelecao), std::pair(c.selInicio, c.selTamanho));
+        }
+    }
+    RegrasNumero travado;
+    travado.Travado = true;
+    EXPECT_EQ(travado.Tecla(u'1'), R);
 }
 
 TEST_F(RegrasNumeroTest, FormatoForaDaFaixaEIgnoradoEArredondado)
@@ -66,51 +84,11 @@ TEST_F(RegrasNumeroTest, FormatoForaDaFaixaEIgnoradoEArredondado)
         {13, false, 6, 6}, {0.5, false, 6, 6}, {3.25, true, 3, 3}, {12.9, true, 12, 9}, {4.0, true, 4, 0}};
     for (const auto &[formato, aceito, inteiros, decimais] : casos) {
         EXPECT_EQ(r.DefinirFormato(formato), aceito) << formato;
-        EXPECT_EQ(r.MaxInteiros(), inteiros) << formato;
-        EXPECT_EQ(r.MaxDecimais(), decimais) << formato;
+        EXPECT_EQ(std::pair(r.MaxInteiros(), r.MaxDecimais()), std::pair(inteiros, decimais)) << formato;
     }
-    // Without decimals the separator key does nothing.
-    r.Texto = QStringLiteral("12");
-    Cursor(r, 1);
-    EXPECT_EQ(r.Tecla(u','), EfeitoTecla::Consumida);
-    EXPECT_EQ(r.Texto, QStringLiteral("12"));
 }
 
-TEST_F(RegrasNumeroTest, SeparadorVaiParaOCursor)
-{
-    RegrasNumero r;
-    r.Texto = QStringLiteral("1234");
-    Cursor(r, 2);
-    EXPECT_EQ(r.Tecla(u'.'), EfeitoTecla::Consumida);
-    EXPECT_EQ(r.Texto, QStringLiteral("12,34"));
-    EXPECT_EQ(r.InicioSelecao, 3);
-    EXPECT_EQ(r.TamanhoSelecao, 2);
-    EXPECT_DOUBLE_EQ(r.Valor(), 12.34);
-    // Typed again further left, it moves rather than doubling.
-    Cursor(r, 1);
-    r.Tecla(u',');
-    EXPECT_EQ(r.Texto, QStringLiteral("1,234"));
-    // At the start and at the end a zero fills the empty side.
-    Cursor(r, 0);
-    r.Tecla(u',');
-    EXPECT_EQ(r.Texto, QStringLiteral("0,1234"));
-    Cursor(r, 6);
-    r.Tecla(u',');
-    EXPECT_EQ(r.Texto, QStringLiteral("01234,0"));
-    // Everything selected gives 0,0 with the decimal part selected.
-    Cursor(r, 0, int(r.Texto.size()));
-    r.Tecla(u',');
-    EXPECT_EQ(r.Texto, QStringLiteral("0,0"));
-    EXPECT_EQ(r.InicioSelecao, 2);
-    EXPECT_EQ(r.TamanhoSelecao, 1);
-    // A selection holding the separator is deleted first.
-    r.Texto = QStringLiteral("12,5");
-    Cursor(r, 1, 2);
-    r.Tecla(u',');
-    EXPECT_EQ(r.Texto, QStringLiteral("1,5"));
-}
-
-TEST_F(RegrasNumeroTest, ExibicaoAoPerderOFocoComSeparadoresDoSistema)
+TEST_F(RegrasNumeroTest, ExibicaoAoPerderOFocoEscapeEVazio)
 {
     RegrasNumero r;
     r.DefinirValor(1234567.5);
@@ -118,17 +96,19 @@ TEST_F(RegrasNumeroTest, ExibicaoAoPerderOFocoComSeparadoresDoSistema)
     r.GanharFoco();
     EXPECT_EQ(r.Texto, QStringLiteral("1234567,5"));
     EXPECT_EQ(r.TamanhoSelecao, 9);
+    r.Tecla(u'7');
+    EXPECT_EQ(r.Valor(), 7);
+    r.Tecla(u'\x1b');   // Escape brings back the value the field had on focus
+    EXPECT_EQ(r.Texto, QStringLiteral("1234567,5"));
+    EXPECT_EQ(r.TamanhoSelecao, 9);
     r.PerderFoco();
     EXPECT_EQ(r.Texto, QStringLiteral("1.234.567,5"));
 
     r.SeparadorMilhar = false;
-    r.DefinirValor(1234567);
-    EXPECT_EQ(r.Texto, QStringLiteral("1234567"));
-
+    EXPECT_EQ(r.Exibicao(1234567), QStringLiteral("1234567"));
     r.ManterDecimais = true;
     r.DefinirFormato(6.2);
-    r.DefinirValor(12);
-    EXPECT_EQ(r.Texto, QStringLiteral("12,00"));
+    EXPECT_EQ(r.Exibicao(12), QStringLiteral("12,00"));
     // A trailing separator left by the user goes with the display format.
     r.ManterDecimais = false;
     r.GanharFoco();
@@ -136,79 +116,30 @@ TEST_F(RegrasNumeroTest, ExibicaoAoPerderOFocoComSeparadoresDoSistema)
     r.TextoAlterado();
     r.PerderFoco();
     EXPECT_EQ(r.Texto, QStringLiteral("12"));
-}
 
-TEST_F(RegrasNumeroTest, EscapeRestauraEVazioViraZero)
-{
-    RegrasNumero r;
-    r.DefinirValor(42);
-    r.GanharFoco();
-    Digitar(r, QStringLiteral("7"));
-    EXPECT_EQ(r.Valor(), 7);
-    r.Tecla(u'\x1b');
-    EXPECT_EQ(r.Valor(), 42);
-    EXPECT_EQ(r.Texto, QStringLiteral("42"));
-    EXPECT_EQ(r.TamanhoSelecao, 2);
-
-    r.InicioSelecao = 0;
-    r.TamanhoSelecao = 2;
-    r.Tecla(u'\b');
-    EXPECT_EQ(r.Texto, QStringLiteral("0"));
     r.PermitirVazio = true;
-    Cursor(r, 0, 1);
+    r.GanharFoco();
     r.Tecla(u'\b');
     EXPECT_TRUE(r.Vazio());
     r.PerderFoco();
     EXPECT_EQ(r.Texto, QString());
 }
 
-TEST_F(RegrasNumeroTest, SinalSoComPermissao)
-{
-    RegrasNumero r;
-    r.DefinirValor(15);
-    EXPECT_EQ(r.Tecla(u'-'), EfeitoTecla::Recusada);
-    EXPECT_EQ(r.Tecla(u'a'), EfeitoTecla::Recusada);
-    // A pasted sign is dropped as well.
-    r.Texto = QStringLiteral("-15");
-    r.TextoAlterado();
-    EXPECT_EQ(r.Texto, QStringLiteral("15"));
-    EXPECT_EQ(r.Valor(), 15);
-
-    r.PermitirSinal = true;
-    EXPECT_EQ(r.Tecla(u'-'), EfeitoTecla::Consumida);
-    EXPECT_EQ(r.Texto, QStringLiteral("-15"));
-    EXPECT_EQ(r.Valor(), -15);
-    EXPECT_EQ(r.InicioSelecao, 1);
-    EXPECT_EQ(r.TamanhoSelecao, 2);
-    r.Tecla(u'+');
-    EXPECT_EQ(r.Texto, QStringLiteral("15"));
-    EXPECT_EQ(r.TamanhoSelecao, 2);
-    EXPECT_EQ(r.Tecla(u'\r'), EfeitoTecla::Passa);
-    r.Travado = true;
-    EXPECT_EQ(r.Tecla(u'1'), EfeitoTecla::Recusada);
-}
-
 TEST_F(RegrasNumeroTest, ColarGuardaSoOQueAsTeclasAceitam)
 {
     // Pasted over the whole text of 0, in a 4.2 field.
-    const struct {
-        QString colado;
-        bool sinal;
-        QString texto;
-    } casos[] = {
-        {QStringLiteral("12abc3"), false, QStringLiteral("123")},
-        {QStringLiteral("-16"), false, QStringLiteral("16")},
-        {QStringLiteral("-16"), true, QStringLiteral("-16")},
-        {QStringLiteral("R$ 7,25"), false, QStringLiteral("7,25")},
-        {QStringLiteral("123456789"), false, QStringLiteral("1234")},
-        {QStringLiteral("x y"), false, QStringLiteral("0")},
-    };
-    for (const auto &c : casos) {
+    for (auto [colado, sinal, texto] : {std::tuple{"12abc3", false, "123"}, {"-16", false, "16"}, {"-16", true, "-16"},
+                                        {"R$ 7,25", false, "7,25"}, {"123456789", false, "1234"}, {"x y", false, "0"}}) {
         RegrasNumero r;
         r.DefinirFormato(4.2);
-        r.PermitirSinal = c.sinal;
+        r.PermitirSinal = sinal;
         r.GanharFoco();
-        r.Colar(c.colado);
-        EXPECT_EQ(r.Texto, c.texto) << c.colado.toStdString();
+        r.Colar(QString::fromLatin1(colado));
+        EXPECT_EQ(r.Texto, QString::fromLatin1(texto)) << colado;
     }
+    // A pasted sign is dropped when not allowed.
+    RegrasNumero r;
+    r.Texto = QStringLiteral("-15");
+    r.TextoAlterado();
+    EXPECT_EQ(r.Texto, QStringLiteral("15"));
 }

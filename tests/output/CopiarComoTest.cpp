@@ -75,193 +75,103 @@ TEST(CopiarComo, ExemploDoMoveCurtoMantidoELongoQuebradoNasDuasFormas)
 
 TEST(QuebrarLinhasCobol, LimitesAspasCaudaELinhasIncompletas)
 {
-    // Exactly 72 stays; 73 is cut. Text after the last line end is dropped.
-    const QString l72 = em(11) + QStringLiteral("move \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\" to X");
-    ASSERT_EQ(l72.size(), 72);
-    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF + QStringLiteral("resto sem fim de linha"), false), l72 + kCRLF);
-    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("sem fim de linha"), false), QString());
-    EXPECT_EQ(QuebrarLinhasCobol(kCRLF + kCRLF, true), linhas({QString(), QString()}));
-
-    // In the STRING form the limit is 71, so the same line becomes a STRING
-    // statement whose one literal already fits.
-    EXPECT_EQ(QuebrarLinhasCobol(l72 + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces to X"),
-                      em(11) + QStringLiteral("string \"") + QString(49, QLatin1Char('a')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into X")}));
-
-    // A long line without a literal is left long, "move" and all.
+    const auto x = [](int n, char c) { return QString(n, QLatin1Char(c)); };
+    const QString cont = QStringLiteral("      -    \""), l72 = em(11) + "move \"" + x(49, 'a') + "\" to X";
     const QString semAspas = em(11) + QStringLiteral("MOVE WS-CAMPO-COM-NOME-BEM-COMPRIDO-DEMAIS TO WS-OUTRO-CAMPO-MUITO-LONGO");
-    ASSERT_GT(semAspas.size(), 72);
-    EXPECT_EQ(QuebrarLinhasCobol(semAspas + kCRLF, true), semAspas + kCRLF);
-
-    // Upper-case MOVE and TO are found; several cuts for a long literal.
-    const QString longa = em(11) + QStringLiteral("MOVE \"") + QString(150, QLatin1Char('x')) + QStringLiteral("\" TO WS-V");
-    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, false),
-              linhas({em(11) + QStringLiteral("MOVE \"") + QString(55, QLatin1Char('x')),
-                      QStringLiteral("      -    \"") + QString(60, QLatin1Char('x')),
-                      QStringLiteral("      -    \"") + QString(35, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" TO WS-V")}));
-    EXPECT_EQ(QuebrarLinhasCobol(longa + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces TO WS-V"),
-                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(11) + QStringLiteral("\"") + QString(59, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(11) + QStringLiteral("\"") + QString(39, QLatin1Char('x')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into WS-V")}));
-
-    // A cut that leaves only the closing quote: an empty literal is not
-    // written in the STRING form; the continuation line keeps it, because
-    // without it the literal would stay open.
-    const QString ate72 = em(11) + QStringLiteral("move \"") + QString(55, QLatin1Char('b')) + QStringLiteral("\" to Y");
-    EXPECT_EQ(QuebrarLinhasCobol(ate72 + kCRLF, false),
-              linhas({ate72.left(72), QStringLiteral("      -    \"\""), em(14) + QStringLiteral(" to Y")}));
-    const QString ate71 = em(11) + QStringLiteral("move \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\" to Y");
-    EXPECT_EQ(QuebrarLinhasCobol(ate71 + kCRLF, true),
-              linhas({em(11) + QStringLiteral("move spaces to Y"),
-                      em(11) + QStringLiteral("string \"") + QString(52, QLatin1Char('c')) + QStringLiteral("\""),
-                      em(14) + QStringLiteral(" delimited by size into Y")}));
-
-    // A literal that ends the line has no tail; lines of a multi-line text
-    // are treated one by one.
-    const QString semCauda = em(11) + QStringLiteral("display \"") + QString(70, QLatin1Char('d')) + QStringLiteral("\"");
-    EXPECT_EQ(QuebrarLinhasCobol(QStringLiteral("curta") + kCRLF + semCauda + kCRLF + QStringLiteral("fim") + kCRLF, false),
-              linhas({QStringLiteral("curta"), semCauda.left(72),
-                      QStringLiteral("      -    \"") + QString(18, QLatin1Char('d')) + QStringLiteral("\""),
-                      QStringLiteral("fim")}));
+    const QString longa = em(11) + "MOVE \"" + x(150, 'x') + "\" TO WS-V", ate72 = em(11) + "move \"" + x(55, 'b') + "\" to Y";
+    const QString semCauda = em(11) + "display \"" + x(70, 'd') + "\"";
+    const struct {
+        QString entrada;
+        bool string;
+        QString saida;
+    } casos[] = {
+        // Exactly 72 stays; text after the last line end is dropped.
+        {l72 + kCRLF + "resto sem fim de linha", false, l72 + kCRLF},
+        {"sem fim de linha", false, QString()},
+        {kCRLF + kCRLF, true, linhas({QString(), QString()})},
+        // In the STRING form the limit is 71: the same line becomes a STRING
+        // statement whose one literal already fits.
+        {l72 + kCRLF, true, linhas({em(11) + "move spaces to X", em(11) + "string \"" + x(49, 'a') + "\"",
+                                    em(14) + " delimited by size into X"})},
+        // A long line without a literal is left long, "move" and all.
+        {semAspas + kCRLF, true, semAspas + kCRLF},
+        // Upper-case MOVE and TO are found; several cuts for a long literal.
+        {longa + kCRLF, false, linhas({em(11) + "MOVE \"" + x(55, 'x'), cont + x(60, 'x'), cont + x(35, 'x') + "\"",
+                                       em(14) + " TO WS-V"})},
+        {longa + kCRLF, true, linhas({em(11) + "move spaces TO WS-V", em(11) + "string \"" + x(52, 'x') + "\"",
+                                      em(11) + "\"" + x(59, 'x') + "\"", em(11) + "\"" + x(39, 'x') + "\"",
+                                      em(14) + " delimited by size into WS-V"})},
+        // A cut that leaves only the closing quote: the continuation line keeps
+        // it, or the literal would stay open; the STRING form writes no empty literal.
+        {ate72 + kCRLF, false, linhas({ate72.left(72), cont + "\"", em(14) + " to Y"})},
+        {em(11) + "move \"" + x(52, 'c') + "\" to Y" + kCRLF, true,
+         linhas({em(11) + "move spaces to Y", em(11) + "string \"" + x(52, 'c') + "\"", em(14) + " delimited by size into Y"})},
+        // A literal that ends the line has no tail; lines are treated one by one.
+        {"curta" + kCRLF + semCauda + kCRLF + "fim" + kCRLF, false,
+         linhas({QStringLiteral("curta"), semCauda.left(72), cont + x(18, 'd') + "\"", QStringLiteral("fim")})},
+    };
+    ASSERT_EQ(l72.size(), 72);
+    for (const auto &c : casos)
+        EXPECT_EQ(QuebrarLinhasCobol(c.entrada, c.string), c.saida) << c.entrada.toStdString();
 }
 
-TEST(CopiarComo, MarcadoresValoresEOrdemDeTroca)
+TEST(CopiarComo, MarcadoresOrdemDeTrocaComentariosELinhasSoltas)
 {
     LayoutDocumento doc;
     doc.MargemSuperior = QStringLiteral("\"15\"");
     doc.MargemEsquerda = QStringLiteral("WS-MARG");
-    doc.MargemInferior = QStringLiteral("\"7.6\"");
+    doc.BandaCabecalho = 1;
     Banda b;
     const auto item = teste::NovoItem;
+    b.Comentario = QStringLiteral("A") + QChar(0xFF) + QStringLiteral("B");
     b.Itens = {item(TipoTexto, QStringLiteral("Nome"), 0, 100),
                item(TipoComando, QStringLiteral("WS-NOME"), 100, 100),
-               item(TipoEAN13, QStringLiteral("\"789\""), 200, 100),
-               item(TipoFigura, QStringLiteral("\"logo.bmp\""), 500, 100),
                item(TipoBarraGrafico, QStringLiteral("\"35\""), 700, 100),
                item(99, QStringLiteral("tipo desconhecido"), 809, 50)};
-    b.Itens[4].CorTexto = 3;
-    b.Itens[4].CorFundo = 5;
+    b.Itens[2].CorTexto = 3;
+    b.Itens[2].CorFundo = 5;
+    b.Itens[3].Fonte.Sublinhado = true;
     doc.Bandas.append(b);
-
-    LinguagemDef l;
-    l.ComandoRH = QStringLiteral("MOVE '§rh' TO X §c");
-    l.ComandosSimples = QStringLiteral("S");
-    l.ComandoF = QStringLiteral("F");
-    l.ComandoL = QStringLiteral("L");
-    // "§c" is replaced last: "§cl", "§cf" and "§ci" are not cut short by it.
-    l.ComandoT = QStringLiteral("§c|§cl|§cf|§ei|§ci|§ai|bare=§t|q='§t'|d=\"§t\"");
-    EXPECT_EQ(GerarCopiarComo(doc, l),
-              linhas({QStringLiteral("MOVE '15' TO X MS"), QStringLiteral("MOVE WS-MARG TO X ME"),
-                      QStringLiteral("MOVE '7.6' TO X MI"), QStringLiteral("S"), QString(),
-                      QStringLiteral("F"),
-                      QStringLiteral("T |00|99|00002|00096|0000100010|bare=Nome|q='Nome'|d=\"Nome\""),
-                      QStringLiteral("T |00|99|00102|00096|0000100010|bare=§t|q=WS-NOME|d=WS-NOME"),
-                      QStringLiteral("Ba|00|99|00202|00096|0000100010|bare=789|q='789'|d=\"789\""),
-                      QStringLiteral("G |00|99|00502|00096|0000100010|bare=logo.bmp|q='logo.bmp'|d=\"logo.bmp\""),
-                      QStringLiteral("LG|03|05|00700|00100|0000100010|bare=35|q='35'|d=\"35\""),
-                      QStringLiteral("T |00|99|00811|00046|0000100010|bare=tipo desconhecido|q='tipo desconhecido'"
-                                     "|d=\"tipo desconhecido\""),
-                      QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S"), QString()}));
-
-    // Line feeds typed in a plain editor come out as CR LF.
-    LinguagemDef lf;
-    lf.ComandosSimples = QStringLiteral("a\nb");
-    lf.ComentarioInicial = QStringLiteral("c\r\nd\n");
-    EXPECT_TRUE(GerarCopiarComo(SessaoEdicao().Documento, lf)
-                    .startsWith(linhas({QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("a"), QStringLiteral("b")})));
-}
-
-TEST(CopiarComo, LayoutCompletoNumaLinguagemSemCobol)
-{
-    LayoutDocumento doc;
-    doc.NomeImpressora = QStringLiteral("HP");
-    doc.MargemSuperior = QStringLiteral("\"15\"");
-    doc.MargemEsquerda = QStringLiteral("WS-MARG");
-    doc.TipoEmail = 4;
-    doc.QualidadeJPG = 80;
-    doc.TextoEmail = QStringLiteral("Oi{ENTER}Tchau");
-    doc.Paisagem = true;
-    doc.EnviarEmail = true;
-    doc.BandaCabecalho = 1;
-    doc.BandaRodape = 2;
-    doc.QuebraPaginaFinal = true;
-    doc.QuebraPaginaAdd(2);
-
-    const auto item = teste::NovoItem;
-    Banda b1;
-    b1.Comentario = QStringLiteral("A") + QChar(0xFF) + QStringLiteral("B");
-    b1.Itens = {item(TipoTexto, QStringLiteral("Total"), 0, 200)};
-    b1.Itens[0].CorFundo = 7;
-    doc.Bandas.append(b1);
-
-    Banda b2;
-    b2.Deslocamento = -12;
-    b2.Comentario = QStringLiteral("só antes");
-    b2.Itens = {item(TipoFigura, QString(), 0, 50), item(TipoEAN13, QStringLiteral("\"789\""), 50, 100),
-                item(TipoComando, QStringLiteral("WS-NOME"), 150, 80), item(TipoBarraGrafico, QStringLiteral("WS-BAR"), 230, 40),
-                item(TipoTexto, QStringLiteral("x"), 270, 4)};
-    b2.Itens[3].CorTexto = 3;
-    b2.Itens[3].CorFundo = 5;
-    b2.Itens[4].Fonte.Sublinhado = true;
-    doc.Bandas.append(b2);
-
-    Banda b3;
-    b3.Altura = -30;
-    b3.Comentario = QChar(0xFF) + QStringLiteral("só depois");
-    doc.Bandas.append(b3);
+    Banda soAntes, soDepois;
+    soAntes.Comentario = QStringLiteral("só antes");
+    soDepois.Comentario = QChar(0xFF) + QStringLiteral("só depois");
+    doc.Bandas += {soAntes, soDepois};
 
     LinguagemDef l;
     l.ComentarioInicial = QStringLiteral("// início");
-    l.ComandosSimples = QStringLiteral("? \"§c\"");
-    l.ComandoRH = QStringLiteral("? \"§c\", '§rh'");
-    l.ComandoF = QStringLiteral("F(§c|§t|§n§i§s§r|§f)");
-    l.ComandoL = QStringLiteral("L(§c|§cl|§cf|§ei|§ci|§ai|§el)");
-    l.ComandoT = QStringLiteral("T(§c|§cl|§cf|§ei|§ci|§ai|'§t')");
-    l.DefVariaveis = QStringLiteral("never inserted");
-    l.ChamadaViewer = QStringLiteral("never inserted");
+    l.ComandoRH = QStringLiteral("MOVE '§rh' TO X §c");
+    l.ComandosSimples = QStringLiteral("S §c");
+    l.ComandoF = QStringLiteral("F §c|§t|§n§i§s§r|§f");
+    l.ComandoL = QStringLiteral("L");
+    // "§c" is replaced last: "§cl", "§cf" and "§ci" are not cut short by it.
+    l.ComandoT = QStringLiteral("§c|§cl|§cf|§ei|§ci|§ai|bare=§t|q='§t'|d=\"§t\"");
+    l.DefVariaveis = l.ChamadaViewer = QStringLiteral("never inserted");
     EXPECT_EQ(GerarCopiarComo(doc, l),
-              linhas({QStringLiteral("// início"),
-                      QStringLiteral("? \"I HP\""),
-                      QStringLiteral("? \"MS\", '15'"),
-                      QStringLiteral("? \"ME\", WS-MARG"),
-                      QStringLiteral("? \"EP 80\""),
-                      QStringLiteral("? \"ET Oi{ENTER}Tchau\""),
-                      QStringLiteral("? \"IP\""),
-                      QStringLiteral("? \"E \""),
-                      QString(),
+              linhas({QStringLiteral("// início"), QStringLiteral("MOVE '15' TO X MS"), QStringLiteral("MOVE WS-MARG TO X ME"),
+                      QStringLiteral("S QJ 92"), QString(),
                       QStringLiteral("A"),
-                      QStringLiteral("F(F |10|0000|Arial)"),
-                      QStringLiteral("L(L |00|07|00000|00200|0000000000|01)"),
-                      QStringLiteral("T(T |00|99|00002|00196|0000100010|'Total')"),
-                      QStringLiteral("? \"RH\", '00018'"),
-                      QStringLiteral("? \"FC\""),
-                      QStringLiteral("B"),
-                      QString(),
-                      QStringLiteral("só antes"),
-                      QStringLiteral("? \"QP\""),
-                      QStringLiteral("T(Ba|00|99|00052|00096|0000100010|'789')"),
-                      QStringLiteral("T(T |00|99|00152|00076|0000100010|WS-NOME)"),
-                      QStringLiteral("T(LG|03|05|00230|00040|0000100010|WS-BAR)"),
-                      QStringLiteral("F(F |10|0010|Arial)"),
-                      QStringLiteral("? \"RT\", '-0012'"),
-                      QStringLiteral("? \"RH\", '00018'"),
-                      QStringLiteral("? \"RO\""),
-                      QString(),
-                      QStringLiteral("? \"RH\", '00000'"),
-                      QStringLiteral("? \"QL\""),
-                      QStringLiteral("só depois"),
-                      QString(),
-                      QStringLiteral("? \"QP\"")}));
+                      QStringLiteral("F F |10|0000|Arial"),
+                      QStringLiteral("T |00|99|00002|00096|0000100010|bare=Nome|q='Nome'|d=\"Nome\""),
+                      QStringLiteral("T |00|99|00102|00096|0000100010|bare=§t|q=WS-NOME|d=WS-NOME"),
+                      QStringLiteral("LG|03|05|00700|00100|0000100010|bare=35|q='35'|d=\"35\""),
+                      QStringLiteral("F F |10|0010|Arial"),
+                      QStringLiteral("T |00|99|00811|00046|0000100010|bare=tipo desconhecido|q='tipo desconhecido'"
+                                     "|d=\"tipo desconhecido\""),
+                      QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S FC"), QStringLiteral("B"), QString(),
+                      QStringLiteral("só antes"), QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S QL"), QString(),
+                      QStringLiteral("MOVE '00018' TO X RH"), QStringLiteral("S QL"), QStringLiteral("só depois"),
+                      QString()}));
 
-    // The opening comment of a COBOL language keeps its last line too.
-    LinguagemDef cobol;
-    cobol.EhCobol = true;
-    cobol.ComentarioInicial = QStringLiteral("      * um\r\n      * dois");
-    EXPECT_TRUE(GerarCopiarComo(doc, cobol).startsWith(linhas({QStringLiteral("      * um"), QStringLiteral("      * dois")})));
+    // Line feeds typed in a plain editor come out as CR LF; a COBOL
+    // language's opening comment keeps its last line.
+    LinguagemDef lf;
+    lf.ComandosSimples = QStringLiteral("a\nb");
+    lf.ComentarioInicial = QStringLiteral("c\r\nd\n");
+    EXPECT_TRUE(GerarCopiarComo(LayoutDocumento(), lf)
+                    .startsWith(linhas({QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("a"), QStringLiteral("b")})));
+    lf.EhCobol = true;
+    lf.ComentarioInicial = QStringLiteral("      * um\r\n      * dois");
+    EXPECT_TRUE(GerarCopiarComo(LayoutDocumento(), lf).startsWith(linhas({QStringLiteral("      * um"), QStringLiteral("      * dois")})));
 }
 
 namespace {
@@ -301,9 +211,6 @@ TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
     const QByteArray bytes = teste::LerArquivo(cpy);
     EXPECT_EQ(bytes, Para1252(codigo));
     EXPECT_TRUE(bytes.contains("Pre\xE7o \xE0 vista"));
-    EXPECT_TRUE(bytes.endsWith("\r\n"));  // the file ends with the last line end, nothing more
-    for (const QByteArray &linha : bytes.split('\n'))
-        EXPECT_LE(linha.size(), 73) << linha.toStdString();  // 72 columns and the CR
 
     // An existing file: the question, and "No" leaves it alone.
     teste::GravarArquivoTeste(cpy, "antigo");
@@ -422,53 +329,39 @@ TEST_F(CopybookTeste, LinhaDeComandoCopiarComoELinguagemNova)
         l.EhCobol = cobol;
         return Para1252(GerarCopiarComo(s.Documento, l));
     };
-    const auto erros = [](const Execucao &r) { return QString::fromLocal8Bit(r.erros).trimmed(); };
-
-    Execucao r = rodar({cc, ct, lmt, QStringLiteral("--string")});
-    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
-    EXPECT_EQ(r.saida, codigo(true));
-    EXPECT_TRUE(r.saida.contains("A\xE7\xE3o"));
-    EXPECT_EQ(rodar({cc, QStringLiteral("--continuacao"), ct, lmt}).saida, codigo(false));
-
     // Without a flag the editor's setting decides (default: STRING).
     EXPECT_EQ(rodar({cc, ct, lmt}).saida, codigo(true));
     Configuracoes c;
     c.NoCobolUsarString = false;
     c.GravarNoCobolUsarString();
+    EXPECT_EQ(rodar({cc, ct, lmt, QStringLiteral("--string")}).saida, codigo(true));
     const QString saida = caminho(QStringLiteral("saida.cpy"));
     teste::GravarArquivoTeste(saida, "velho");
-    r = rodar({cc, ct, lmt, saida});
+    Execucao r = rodar({cc, ct, lmt, saida});
     ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
     EXPECT_TRUE(r.saida.isEmpty());
     EXPECT_EQ(teste::LerArquivo(saida), codigo(false));
-
     // A path to a .lin file works as well; its name decides the COBOL step.
     QFile::copy(caminho(QStringLiteral("Cobol Teste.lin")), caminho(QStringLiteral("outra.lin")));
-    EXPECT_EQ(rodar({cc, caminho(QStringLiteral("outra.lin")), lmt}).saida, codigo(false, false));
+    EXPECT_EQ(rodar({cc, caminho(QStringLiteral("outra.lin")), lmt, QStringLiteral("--continuacao")}).saida, codigo(false, false));
 
-    // Failures: the editor's messages and the exit codes.
-    r = rodar({cc, QStringLiteral("Nenhuma"), lmt});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(erros(r), QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Nenhuma.lin")) + QStringLiteral("' não foi encontrado!"));
-    teste::GravarArquivoTeste(caminho(QStringLiteral("ruim.lin")), QByteArray("\2\0\0\0", 4));
-    r = rodar({cc, QStringLiteral("ruim"), lmt});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(erros(r).endsWith(QStringLiteral("' é inválido!")));
-    r = rodar({cc, ct, caminho(QStringLiteral("nada.lmt"))});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_TRUE(erros(r).startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
-    EXPECT_TRUE(r.saida.isEmpty());
+    // Failures: the editor's messages and the exit codes; a new language.
     const QString nova = QStringLiteral("nova"), linguagem = QStringLiteral("linguagem");
-    for (const QStringList &errado : {QStringList{cc, ct}, QStringList{cc, ct, lmt, QStringLiteral("--string"), QStringLiteral("--continuacao")},
-                                      QStringList{linguagem, nova}})
-        EXPECT_EQ(rodar(errado).codigo, 2) << errado.join(u' ').toStdString();
-
-    // A new language: the name cleaned as the dialog does, the defaults written.
-    r = rodar({linguagem, nova, QStringLiteral("meu:cobol")});
-    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    const std::tuple<QStringList, int, QString> casos[] = {
+        {{cc, QStringLiteral("Nenhuma"), lmt}, 1, QStringLiteral("O Arquivo '") + caminho(QStringLiteral("Nenhuma.lin")) + QStringLiteral("' não foi encontrado!")},
+        {{cc, ct, caminho(QStringLiteral("nada.lmt"))}, 1, QStringLiteral("Ocorreu um erro ao abrir o arquivo '")},
+        {{cc, ct}, 2, QString()},
+        {{cc, ct, lmt, QStringLiteral("--string"), QStringLiteral("--continuacao")}, 2, QString()},
+        {{linguagem, nova}, 2, QString()},
+        {{linguagem, nova, QStringLiteral("meu:cobol")}, 0, QString()},
+        {{linguagem, nova, QStringLiteral("meu:cobol")}, 1, QStringLiteral("A linguagem 'meu_cobol' já existe!")},
+    };
+    for (const auto &[args, saidaEsperada, inicio] : casos) {
+        r = rodar(args);
+        EXPECT_EQ(r.codigo, saidaEsperada) << args.join(u' ').toStdString();
+        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << r.erros.toStdString();
+        EXPECT_EQ(r.saida.isEmpty(), saidaEsperada != 0);  // a new language: its path
+    }
     EXPECT_EQ(teste::LerArquivo(caminho(QStringLiteral("meu_cobol.lin"))), CodificarLin(LinguagemPadrao()));
-    r = rodar({linguagem, nova, QStringLiteral("meu:cobol")});
-    EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(erros(r), QStringLiteral("A linguagem 'meu_cobol' já existe!"));
-    EXPECT_EQ(rodar({linguagem, QStringLiteral("lista")}).saida, QByteArray("Cobol Teste\nmeu_cobol\noutra\nruim\n"));
+    EXPECT_EQ(rodar({linguagem, QStringLiteral("lista")}).saida, QByteArray("Cobol Teste\nmeu_cobol\noutra\n"));
 }

@@ -231,9 +231,14 @@ public:
         chkTachado->setChecked(m_fonte.Tachado);
         carregarEstilos();
 
-        connect(lstFonte, &QListWidget::currentTextChanged, this, [this](const QString &f) {
-            if (f.isEmpty())
+        // Only a family the user chooses replaces the name: the list taking
+        // the focus makes its first entry current without choosing it, and
+        // a name the system lacks would be lost.
+        connect(lstFonte, &QListWidget::itemSelectionChanged, this, [this] {
+            const QList<QListWidgetItem *> escolhidas = lstFonte->selectedItems();
+            if (escolhidas.isEmpty())
                 return;
+            const QString f = escolhidas.first()->text();
             m_fonte.Nome = f;
             txtFonte->setText(f);
             carregarEstilos();

@@ -221,8 +221,6 @@ TEST_F(PainelTest, CoresBasicasEPaletaExtendida)
     EXPECT_EQ(cores(), std::tuple(0, 2, 15));
 
     EXPECT_EQ(NumeroPaletaExtendida(500, 500), 79);
-    EXPECT_EQ(NumeroPaletaExtendida(16, 32), 33);
-    EXPECT_EQ(NovaCor(99), 0);
     // A basic colour drops the macro of its letter only.
     item(1, 1).Texto = QStringLiteral("<%_T,1,2,3_%><%_F,4,5,6_%>Nome");
     CliquePaletaExtendida(s, AlvoPaleta::Linha, 20, 0, true);
@@ -284,7 +282,6 @@ TEST_F(PainelTest, TextoFonteFiguraEMacros)
     Selecionar(1, 3);
     EXPECT_EQ(AcaoFonte(s), AcaoBotaoFonte::CodigoBarras);
 
-    EXPECT_EQ(TextoMacro(s, 0), QStringLiteral("(%_pag_%)"));
     ui.entradas = {QStringLiteral(" 123"), QString(), std::nullopt};
     EXPECT_EQ(TextoMacro(s, 12), QStringLiteral("(%_12_%)"));
     EXPECT_TRUE(TextoMacro(s, 12).isEmpty());

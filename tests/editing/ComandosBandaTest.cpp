@@ -1,4 +1,3 @@
-#include "document/ArquivoLMT.h"
 #include "editing/AlcasMagico.h"
 #include "editing/ComandosBanda.h"
 #include "editing/ComandosItem.h"
@@ -10,6 +9,7 @@
 
 using namespace lumeta;
 using BandaMenu = lumeta::teste::SessaoMontada;
+using L = QList<int32_t>;
 
 namespace {
 
@@ -33,33 +33,26 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     s.Documento.BandaRodape = 3;
     mnuEditarBandaInserir(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "2.1", "3.1", "4.1"}));
-    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
-    EXPECT_EQ(s.BandaSelecionada, 2);
-    EXPECT_EQ(pinturas, 1);
+    EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada, pinturas), std::tuple(std::pair(2, 4), 2, 1));
 
     Selecionar(3, 1);
     ASSERT_TRUE(mnuEditarBandaRemover(s));
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "3.1", "4.1"}));
-    EXPECT_EQ(marcadores(), std::make_pair(2, 3));
-    EXPECT_EQ(Selecionado(), std::make_pair(3, 0));
+    EXPECT_EQ(std::tuple(marcadores(), Selecionado()), std::tuple(std::pair(2, 3), std::pair(3, 0)));
 
     // The lower copy of a duplicate starts right under its source.
     s.Documento.banda(3).Deslocamento = -8;
     s.Documento.banda(3).Comentario = QStringLiteral("c");
-    s.ItemSelecionado = 1;
     mnuEditarBandaDuplicar(s);
-    EXPECT_EQ(PrimeirosTextos(), (QStringList{"Texto 1", "1.1", "3.1", "3.1", "4.1"}));
-    EXPECT_EQ(DasBandas([](const Banda &b) { return b.Deslocamento; }), (QList<int32_t>{0, 0, -8, 0, 0}));
+    EXPECT_EQ(DasBandas([](const Banda &b) { return b.Deslocamento; }), (L{0, 0, -8, 0, 0}));
     EXPECT_EQ(B(4).Comentario, QStringLiteral("c"));
     EXPECT_EQ(B(4).Itens, B(3).Itens);
-    EXPECT_EQ(s.BandaSelecionada, 4);
-    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
+    EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(2, 4), 4));
 
     // Appending moves neither the selection nor the markers.
     mnuEditarBandaAdicionar(s);
-    EXPECT_EQ(Alturas(), (QList<int32_t>{18, 18, 18, 18, 18, 18}));
-    EXPECT_EQ(s.BandaSelecionada, 4);
-    EXPECT_EQ(marcadores(), std::make_pair(2, 4));
+    EXPECT_EQ(B(6).Altura, 18);
+    EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(2, 4), 4));
 
     // Up and down swap the bands, not the markers; at either end nothing happens.
     Montar({{64}, {32}, {16}});
@@ -75,15 +68,13 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     mnuEditarBandaDown(s);
     mnuEditarBandaDown(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1"}));
-    EXPECT_EQ(s.BandaSelecionada, 3);
-    EXPECT_EQ(marcadores(), std::make_pair(1, 3));
+    EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(1, 3), 3));
 
     // The only band cannot go.
     Montar({{64, 32}});
     const LayoutDocumento antes = s.Documento;
     EXPECT_FALSE(mnuEditarBandaRemover(s));
     EXPECT_EQ(s.Documento, antes);
-    EXPECT_EQ(pinturas, 0);
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível remover a última banda!"));
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
@@ -92,20 +83,13 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
 TEST_F(BandaMenu, QuebraDePaginaAlternaPelaBandaESegueSuaBanda)
 {
     Montar({{64}, {32}, {16}, {48}, {8}});
-    EXPECT_FALSE(BandaPaginaHabilitada(1));
     EXPECT_FALSE(mnuEditarBandaPagina(s));
-    EXPECT_TRUE(s.Documento.Quebras.isEmpty());
-    for (int b : {2, 5, 4}) {
+    for (int b : {2, 5, 4, 2}) {
         s.BandaSelecionada = b;
         EXPECT_TRUE(mnuEditarBandaPagina(s));
     }
-    EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{2, 5, 4}));
     // Removing from the middle puts the former last entry in its place.
-    s.BandaSelecionada = 2;
-    EXPECT_TRUE(mnuEditarBandaPagina(s));
     EXPECT_EQ(s.Documento.Quebras, (QList<int16_t>{4, 5}));
-    s.BandaSelecionada = 5;
-    mnuEditarBandaPagina(s);
 
     // Inserting and moving bands carry the breaks with them.
     s.Documento.Quebras = {2, 4};
@@ -119,7 +103,6 @@ TEST_F(BandaMenu, QuebraDePaginaAlternaPelaBandaESegueSuaBanda)
         EXPECT_EQ(BandasComQuebra(s), marcadas);
     }
     // A break goes with its band.
-    ASSERT_EQ(B(5).Itens[0].Texto, QStringLiteral("4.1"));
     mnuEditarBandaRemover(s);
     EXPECT_EQ(BandasComQuebra(s), QStringList{"2.1"});
     // Pasted bands come without breaks and push the marked band down.
@@ -127,7 +110,6 @@ TEST_F(BandaMenu, QuebraDePaginaAlternaPelaBandaESegueSuaBanda)
     ASSERT_TRUE(mnuEditarCopiar(s));
     s.BandaSelecionada = 1;
     mnuEditarColarBanda(s);
-    EXPECT_EQ(BandasComQuebra(s), QStringList{"2.1"});
     EXPECT_EQ(s.Documento.Quebras, QList<int16_t>{4});
     // A duplicate's source keeps its break; the copy below it has none.
     s.BandaSelecionada = 4;
@@ -140,12 +122,10 @@ TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
     Montar({{64, 32}, {16}, {8}});
     s.Documento.banda(1).Altura = 40;
     Selecionar(2, 0);
-    EXPECT_EQ(LegendaBandaAuto(B(2)), QStringLiteral("Alt&ura automática"));
     mnuEditarBandaAuto(s);
     // The repaint computed the height and keeps it negated.
     const int32_t calculada = B(2).Altura;
     EXPECT_LT(calculada, 0);
-    EXPECT_FALSE(AlturaManual(B(2)));
     EXPECT_EQ(LegendaBandaAuto(B(2)), QStringLiteral("Alt&ura manual"));
     mnuEditarBandaAuto(s);
     EXPECT_EQ(B(2).Altura, -calculada);
@@ -159,7 +139,6 @@ TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
 
     // The band's font goes to every item of the band, sized as the dialog rounds.
     Montar({{64, 32}, {16}});
-    Selecionar(1, 0);
     ui.fontes = {std::nullopt, FonteEscolhida{QStringLiteral("Courier New"), 112.5, true, false, true, false}};
     mnuEditarBandaFonte(s);
     EXPECT_EQ(pinturas, 0);
@@ -167,47 +146,30 @@ TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
     const FonteItem esperada{QStringLiteral("Courier New"), 12, true, false, true, false};
     EXPECT_EQ(DosItens(1, [](const Item &i) { return i.Fonte; }), (QList<FonteItem>{esperada, esperada}));
     EXPECT_EQ(I(2, 1).Fonte, FonteItem());
-    EXPECT_EQ(pinturas, 1);
 }
 
 TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
 {
     Montar({{64}, {32}});
+    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
+    EXPECT_TRUE(s.Documento.QuebraPaginaFinal && s.Alterado);
+    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());  // no footer yet
+    // Setting a footer while it is on turns it off (the panel's test reads the message).
+    s.Documento.BandaRodape = 2;
     s.Alterado = false;
-    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
-    EXPECT_TRUE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(ui.mensagens.isEmpty());
+    EXPECT_FALSE(VerificarRodapeQuebraFinal(s).isEmpty());
+    EXPECT_TRUE(!s.Documento.QuebraPaginaFinal && s.Alterado);
+    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
 
     // With a footer the setting cannot be switched on.
     const QString recusa = QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!");
-    s.Documento.BandaRodape = 2;
     s.Alterado = false;
     EXPECT_EQ(mnuConfigQuebraPagina(s), recusa);
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_FALSE(s.Alterado);
-    ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_EQ(ui.mensagens[0].texto, recusa);
-    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Rodapé"));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
-
-    // Setting a footer while it is on turns it off, with the longer message.
-    s.Documento.BandaRodape = 0;
-    mnuConfigQuebraPagina(s);
-    ASSERT_TRUE(s.Documento.QuebraPaginaFinal);
-    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());  // no footer yet
-    s.Documento.BandaRodape = 2;
-    s.Alterado = false;
-    const QString aviso = VerificarRodapeQuebraFinal(s);
-    EXPECT_EQ(aviso, recusa + QStringLiteral("\n\nA quebra de página será removida do final da página."));
-    EXPECT_FALSE(s.Documento.QuebraPaginaFinal);
-    EXPECT_TRUE(s.Alterado);
+    EXPECT_FALSE(s.Documento.QuebraPaginaFinal || s.Alterado);
     ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_EQ(ui.mensagens[1].texto, aviso);
+    EXPECT_EQ(ui.mensagens[1].texto, recusa);
     EXPECT_EQ(ui.mensagens[1].titulo, QStringLiteral("Rodapé"));
-    EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
+    EXPECT_EQ(ui.mensagens[1].icone, Icone::Informacao);
     // Turning it off is always allowed, footer or not.
     s.Documento.QuebraPaginaFinal = true;
     EXPECT_EQ(mnuConfigQuebraPagina(s), QString());
@@ -255,12 +217,4 @@ TEST_F(BandaMenu, NoLimiteDoArquivoOsComandosQueCrescemRecusamENadaMudam)
                {[&] { mnuEditarColarItem(s); }, TituloColar},
                {[&] { magico(64 + MaximoItens + 100, 20); }, TituloAdicionarItem}},
               QStringLiteral("A banda já tem o máximo de 32767 itens!"));
-
-    // What the commands kept is a file the editor reads back.
-    const QString cheio = pasta.filePath(QStringLiteral("cheio.lmt"));
-    ASSERT_TRUE(GravarArquivoLMT(cheio, d).ok);
-    LayoutDocumento lido;
-    ASSERT_TRUE(AbrirArquivoLMT(cheio, lido).ok);
-    EXPECT_EQ(lido.NumBandas(), MaximoBandas);
-    EXPECT_EQ(lido.banda(1).NumItens(), MaximoItens);
 }

@@ -1,3 +1,6 @@
+// What the option, barcode and comment commands read from the session and
+// write back; the dialogs' own tests drive the rest through their windows.
+#include "editing/ComandosDialogos.h"
 #include "editing/ComandosOpcoes.h"
 #include "editing/SessaoEdicao.h"
 #include "support/ConfigTemporaria.h"
@@ -7,34 +10,14 @@
 
 using namespace lumeta;
 
-TEST(ComandosOpcoes, MargensImpressoraEQualidadeLidasEGravadasComoODialogoMostra)
+TEST(ComandosOpcoes, MargemLeOPrimeiroNumeroEGuardaONomeDoPrograma)
 {
-    // Quoted numbers read back as written; only the leading number counts,
-    // none reads as 0; anything else is a host-program name kept as it is.
-    EXPECT_EQ(GravarMargem(LerMargem(QStringLiteral("\"12.5\"")).milimetros, QString()), QStringLiteral("\"12.5\""));
-    EXPECT_EQ(GravarMargem(10, QString()), QStringLiteral("\"10\""));
-    EXPECT_DOUBLE_EQ(LerMargem(QStringLiteral("\"7.25mm\"")).milimetros, 7.25);
-    EXPECT_DOUBLE_EQ(LerMargem(QStringLiteral("\"abc\"")).milimetros, 0);
+    for (const auto &[escrito, mm] : {std::pair{"\"7.25mm\"", 7.25}, {"\"abc\"", 0.0}})
+        EXPECT_DOUBLE_EQ(LerMargem(QString::fromLatin1(escrito)).milimetros, mm) << escrito;
     const MargemLida nome = LerMargem(QStringLiteral("MARGEM-SUP"));
     EXPECT_FALSE(nome.numero);
-    EXPECT_TRUE(LerMargem(QStringLiteral("\"1\"")).numero);
     EXPECT_EQ(GravarMargem(0, nome.comando), QStringLiteral("MARGEM-SUP"));
-
-    // Typed printer names match in any case; the two special entries map to values.
-    const QStringList lista = ListaImpressoras({QStringLiteral("HP LaserJet"), QStringLiteral("Epson")});
-    EXPECT_EQ(lista.mid(0, 2), (QStringList{"<< Padrão do Windows >>", "<< O usuário seleciona >>"}));
-    EXPECT_EQ(lista.size(), 4);
-    for (const auto &[digitado, entrada] : {std::pair{"  epson ", 3}, {"<< O USUÁRIO SELECIONA >>", 1}, {"Canon", -1}})
-        EXPECT_EQ(EntradaImpressora(lista, QString::fromUtf8(digitado)), entrada) << digitado;
-    EXPECT_EQ(EntradaDoValor(lista, QString()), 0);
-    EXPECT_EQ(EntradaDoValor(lista, QStringLiteral("<?>")), 1);
-    EXPECT_EQ(EntradaDoValor(lista, QStringLiteral("hp laserjet")), 2);
-    EXPECT_EQ(ValorImpressora(0, QStringLiteral("x")), QString());
-    EXPECT_EQ(ValorImpressora(1, QStringLiteral("x")), QStringLiteral("<?>"));
-    EXPECT_EQ(ValorImpressora(-1, QStringLiteral("Canon")), QStringLiteral("Canon"));
-
-    for (const auto &[pedida, qualidade] : {std::pair{0, 1}, {150, 100}, {100, 100}})
-        EXPECT_EQ(LimitarQualidadeJPG(pedida), qualidade) << pedida;
+    EXPECT_EQ(GravarMargem(10, QString()), QStringLiteral("\"10\""));
 }
 
 TEST(ComandosOpcoes, TextoEmVariasLinhasLigaOEstiloEOInalteradoNaoGuardaInstantaneo)
@@ -48,18 +31,40 @@ TEST(ComandosOpcoes, TextoEmVariasLinhasLigaOEstiloEOInalteradoNaoGuardaInstanta
     EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
 
     DefinirTextoEstilo(s, QStringLiteral("Total{E}Geral"));
-    const Item &depois = s.Documento.banda(1).Itens[0];
-    EXPECT_EQ(depois.Texto, QStringLiteral("Total{E}Geral"));
-    EXPECT_EQ(depois.Atributos, QStringLiteral("0000110010"));
-    EXPECT_TRUE(s.Alterado);
+    EXPECT_EQ(s.Documento.banda(1).Itens[0].Atributos, QStringLiteral("0000110010"));
     EXPECT_TRUE(s.TextoResultado.contains(QStringLiteral("Total{E}Geral")));
 
     // A visible range takes the text in every item.
     s.AddItem(1, false, 0);
     s.Faixa = {true, 1, 1, 1, 2};
     DefinirTextoEstilo(s, QStringLiteral("A{e}B"));
-    for (const Item &it : s.Documento.banda(1).Itens) {
-        EXPECT_EQ(it.Texto, QStringLiteral("A{e}B"));
-        EXPECT_EQ(it.Atributos.at(5), u'1');
-    }
+    for (const Item &it : s.Documento.banda(1).Itens)
+        EXPECT_EQ(it.Texto + it.Atributos.at(5), QStringLiteral("A{e}B1"));
+}
+
+TEST(ComandosDialogos, CodigoBarrasAplicadoATodaAFaixaEComentarioGuardadoNaBanda)
+{
+    SessaoEdicao s;
+    s.NovoLMT();
+    s.AddItem(1, false, 0);
+    s.AddItem(1, false, 0);
+    s.Documento.banda(1).Itens[0].Atributos = QStringLiteral("0010109010");
+    s.ItemSelecionado = 1;
+    s.Faixa = {true, 1, 1, 1, 2};
+    ValoresCodigoBarras v;
+    v.Tipo = TipoBarraGrafico;
+    v.BarraGrafico = true;
+    v.Conteudo = QStringLiteral("\"25\"");
+    AplicarCodigoBarras(s, v);
+    // Bottom on, vertical centre off, angle kept without the justify bit.
+    EXPECT_EQ(s.Documento.banda(1).Itens[0].Atributos, QStringLiteral("0001108010"));
+    EXPECT_EQ(s.Documento.banda(1).Itens[1].Atributos, QStringLiteral("0001100010"));
+    EXPECT_EQ(s.Documento.banda(1).Itens[1].Tipo, TipoBarraGrafico);
+    EXPECT_EQ(s.Documento.banda(1).Itens[2].Tipo, TipoTexto);  // outside the range
+    EXPECT_TRUE(s.TextoResultado.contains(QStringLiteral("LG00990000000064000110801025")));
+
+    s.Alterado = false;
+    DefinirComentario(s, QStringLiteral("X") + QChar(0xFF) + QStringLiteral("Y"));
+    EXPECT_EQ(s.Documento.banda(1).Comentario, QStringLiteral("X") + QChar(0xFF) + QStringLiteral("Y"));
+    EXPECT_TRUE(s.Alterado);
 }

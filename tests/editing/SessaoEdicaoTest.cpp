@@ -17,10 +17,12 @@ using lumeta::teste::InterfaceRoteirizada;
 
 namespace {
 
-const QString Pergunta = QStringLiteral("Deseja salvar as alterações?");
-const QString ErroAbrir = QStringLiteral("Ocorreu um erro ao abrir o arquivo '");
-
-struct Sessao : SessaoEdicao {
+// A session that records the window hooks it calls, with a settings store of
+// its own; the file messages' texts are the document tests' business.
+struct ComConfig {
+    ConfigTemporaria cfg;   // before the session, which may read it
+};
+struct Sessao : ComConfig, SessaoEdicao {
     InterfaceRoteirizada ui;
     QStringList eventos;
     Sessao()
@@ -38,21 +40,19 @@ struct Sessao : SessaoEdicao {
         AddBanda(0, false, 0, 0);
         ConcluirEdicao();
     }
+    QString Arquivo(const char *nome) const { return cfg.Pasta() + QLatin1Char('/') + QLatin1String(nome); }
     std::pair<int, int> Selecionado() const { return {BandaSelecionada, ItemSelecionado}; }
 };
 
 QStringList Linhas(const QString &texto)
 {
-    QStringList l = texto.split(QStringLiteral("\r\n"));
-    if (!l.isEmpty() && l.last().isEmpty())
-        l.removeLast();
-    return l;
+    return texto.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
 }
 
 // A new layout with a second band of the given height and item width, saved.
 QString GravarLayout(const QString &caminho, int altura, int largura = 0)
 {
-    Sessao t;
+    SessaoEdicao t;
     t.AddBanda(0, false, altura, largura);
     t.Documento.ReposicionarBanda();
     QDir().mkpath(QFileInfo(caminho).absolutePath());
@@ -70,11 +70,9 @@ QString Valor(const char *chave)
 TEST(SessaoEdicao, CicloPintaMarcaAlteradoGuardaInstantaneoEGeraOTexto)
 {
     Sessao s;
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_FALSE(s.PodeDesfazer());
+    EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
     EXPECT_EQ(Linhas(s.TextoResultado),
               QStringList({"QJ 92", "F 100000Arial", "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));
-
     s.Documento.banda(1).Altura = 0;
     s.Documento.banda(1).Itens[0].Largura = 100;
     s.AddBanda(0, false, 0, 0);
@@ -84,17 +82,14 @@ TEST(SessaoEdicao, CicloPintaMarcaAlteradoGuardaInstantaneoEGeraOTexto)
     // height was computed is the selected one, so the selection is shown
     // again; then selection and panel as every command ends.
     EXPECT_EQ(s.eventos, QStringList({"pintar", "selecionar", "resultado", "selecionar", "validar"}));
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_TRUE(s.PodeDesfazer());
+    EXPECT_TRUE(s.Alterado && s.PodeDesfazer());
     // Automatic height computed by the canvas, stored negated, and the next
     // band placed under it.
     const int altura = CalcularAlturaBanda(s.Documento.banda(1), s.Recursos.Medidor);
     EXPECT_GT(altura, 8);
-    EXPECT_EQ(s.Documento.banda(1).Altura, -altura);
-    EXPECT_EQ(s.Documento.banda(2).Topo, 16 + altura);
-    EXPECT_EQ(Linhas(s.TextoResultado),
-              QStringList({"QJ 92", "F 100000Arial", "T 009900002000960000100010Texto 1", "RH 00000", "QL",
-                           "T 009900002000600000100010Texto 1", "RH 00018", "QL"}));
+    EXPECT_EQ(std::pair(s.Documento.banda(1).Altura, s.Documento.banda(2).Topo), std::pair(-altura, 16 + altura));
+    EXPECT_EQ(Linhas(s.TextoResultado).mid(2, 3),
+              QStringList({"T 009900002000960000100010Texto 1", "RH 00000", "QL"}));
 }
 
 TEST(SessaoEdicao, DesfazerRestauraBandasSelecaoMarcadoresEQuebrasMasNaoOPaisagemNemRefaz)
@@ -107,99 +102,60 @@ TEST(SessaoEdicao, DesfazerRestauraBandasSelecaoMarcadoresEQuebrasMasNaoOPaisage
     s.BandaSelecionada = 2;
     s.ItemSelecionado = 1;
     s.Editar();                       // snapshot: 3 bands, header 1, footer 2, break 2
-    const QList<Banda> antes = s.Documento.Bandas;
+    const LayoutDocumento antes = s.Documento;
     s.Documento.banda(3).Itens[0].Texto = QStringLiteral("mudado");
     s.Documento.BandaRodape = 3;
     s.Documento.Quebras.clear();
     s.BandaSelecionada = 3;
     s.ItemSelecionado = 0;
     s.ConcluirEdicao();
-    s.AlternarPaisagem();             // no snapshot of its own
+    s.AlternarPaisagem();             // no snapshot of its own, and not undone
     s.DesfazerEdicao();
-    EXPECT_EQ(s.Documento.Bandas, antes);
-    EXPECT_EQ(std::make_pair(s.Documento.BandaCabecalho, s.Documento.BandaRodape), std::make_pair(1, 2));
-    EXPECT_EQ(s.Documento.Quebras, QList<int16_t>({2}));
+    s.Documento.Paisagem = !s.Documento.Paisagem;
+    EXPECT_EQ(s.Documento, antes);
     EXPECT_EQ(s.Selecionado(), std::make_pair(2, 1));
-    EXPECT_TRUE(s.Documento.Paisagem);  // the landscape toggle is not undone
 
     // Undo reaches the state after New, with its selection, and stops there.
     s.DesfazerEdicao();
     s.DesfazerEdicao();
-    EXPECT_EQ(s.Documento.NumBandas(), 1);
-    EXPECT_EQ(s.Selecionado(), std::make_pair(1, 0));
+    EXPECT_EQ(std::pair(s.Documento.NumBandas(), s.Selecionado()), std::pair(1, std::pair(1, 0)));
     EXPECT_FALSE(s.PodeDesfazer());
-    s.DesfazerEdicao();
-    EXPECT_EQ(s.Documento.NumBandas(), 1);
     // Undo itself takes no snapshot: the next edit overwrites the slot after
     // the current one, so there is no redo.
     s.Editar();
     s.DesfazerEdicao();
     EXPECT_EQ(s.Documento.NumBandas(), 1);
     EXPECT_FALSE(s.PodeDesfazer());
-    // New restarts the ring.
-    s.Editar();
-    s.NovoLMT();
-    EXPECT_FALSE(s.PodeDesfazer());
-    EXPECT_FALSE(s.Alterado);
 }
 
-TEST(SessaoEdicao, SairComCancelarNoDialogoDeSalvarMantemAJanelaEODocumentoAlterado)
+TEST(SessaoEdicao, SairNovoEAbrirPerguntamComOTituloDoComandoERespeitamCancelar)
 {
-    ConfigTemporaria cfg;
     Sessao s;
+    const QString outro = GravarLayout(s.Arquivo("outro.lmt"), 30, 200);
     s.Editar();
-    s.ui.respostas = {Resposta::Cancelar};
+    s.ui.respostas = {Resposta::Cancelar, Resposta::Cancelar, Resposta::Sim};
     EXPECT_FALSE(s.ConfirmarSaida());
-    ASSERT_EQ(s.ui.perguntas.size(), 1);
-    EXPECT_EQ(s.ui.perguntas[0].texto, Pergunta);
-    EXPECT_EQ(s.ui.perguntas[0].titulo, QStringLiteral("Sair"));
-    EXPECT_EQ(s.ui.perguntas[0].icone, Icone::Pergunta);
-
-    // Yes, then Cancel in the save dialog: still open, still changed.
-    s.ui.respostas = {Resposta::Sim};
-    s.ui.arquivos = {QString()};
-    EXPECT_FALSE(s.ConfirmarSaida());
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_TRUE(s.NomeArquivo.isEmpty());
-    // No: leaves without saving.
-    s.ui.respostas = {Resposta::Nao};
-    EXPECT_TRUE(s.ConfirmarSaida());
-    EXPECT_EQ(s.ui.dialogos.size(), 1);
-    // Yes and a name: saved, then leaves.
-    const QString destino = cfg.Pasta() + QStringLiteral("/saida.lmt");
-    s.ui.respostas = {Resposta::Sim};
-    s.ui.arquivos = {destino};
-    EXPECT_TRUE(s.ConfirmarSaida());
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_TRUE(QFile::exists(destino));
-    // An unchanged document is not asked about.
-    EXPECT_TRUE(s.ConfirmarSaida());
-    EXPECT_EQ(s.ui.perguntas.size(), 4);
-}
-
-TEST(SessaoEdicao, NovoEAbrirPerguntamComOTituloDoComandoERespeitamCancelar)
-{
-    ConfigTemporaria cfg;
-    Sessao s;
-    const QString outro = GravarLayout(cfg.Pasta() + QStringLiteral("/outro.lmt"), 30, 200);
-    s.Editar();
-    s.ui.respostas = {Resposta::Cancelar};
     s.ComandoNovo();
     EXPECT_EQ(s.Documento.NumBandas(), 2);
-    EXPECT_EQ(s.ui.perguntas.last().titulo, QStringLiteral("Novo"));
+    // Yes and a name: saved, then leaves; an unchanged document is not asked about.
+    s.ui.arquivos = {s.Arquivo("saida.lmt")};
+    EXPECT_TRUE(s.ConfirmarSaida());
+    EXPECT_TRUE(QFile::exists(s.Arquivo("saida.lmt")));
+    EXPECT_TRUE(s.ConfirmarSaida());
+    ASSERT_EQ(s.ui.perguntas.size(), 3);
+    EXPECT_EQ(std::tuple(s.ui.perguntas[0].texto, s.ui.perguntas[0].titulo, s.ui.perguntas[0].icone),
+              std::tuple(QStringLiteral("Deseja salvar as alterações?"), QStringLiteral("Sair"), Icone::Pergunta));
+    EXPECT_EQ(s.ui.perguntas[1].titulo, QStringLiteral("Novo"));
 
     // New forgets the name, the landscape and the session's JPG quality.
+    s.Editar();
     s.Documento.Paisagem = true;
-    s.NomeArquivo = QStringLiteral("/x.lmt");
     s.QualidadeJPGSessao = 70;
     s.ui.respostas = {Resposta::Nao};
     s.ComandoNovo();
     EXPECT_EQ(s.Documento, SessaoEdicao().Documento);
-    EXPECT_EQ(s.NomeArquivo, QString());
-    EXPECT_EQ(s.QualidadeJPGSessao, 0);
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_FALSE(s.PodeDesfazer());
-    EXPECT_EQ(s.Titulo(), QStringLiteral("LumetaEdit 2.0 - Editor de Layout do Lumeta"));
+    EXPECT_EQ(std::pair(s.NomeArquivo, int(s.QualidadeJPGSessao)), std::pair(QString(), 0));
+    EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
 
     s.Editar();
     s.ui.respostas = {Resposta::Nao};
@@ -207,12 +163,8 @@ TEST(SessaoEdicao, NovoEAbrirPerguntamComOTituloDoComandoERespeitamCancelar)
     s.ComandoAbrir();
     EXPECT_EQ(s.ui.perguntas.last().titulo, QStringLiteral("Abrir"));
     EXPECT_EQ(s.Documento.banda(2).Altura, 30);
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_FALSE(s.PodeDesfazer());
-    EXPECT_EQ(s.NomeArquivo, outro);
-    EXPECT_EQ(s.Titulo(), QStringLiteral("LumetaEdit 2.0 - [") + outro + QStringLiteral("]"));
-    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({outro}));
-
+    EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
+    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({outro, s.Arquivo("saida.lmt")}));
     // A window that is not usable does not open anything.
     s.Ganchos.JanelaHabilitada = [] { return false; };
     const qsizetype dialogos = s.ui.dialogos.size();
@@ -222,63 +174,44 @@ TEST(SessaoEdicao, NovoEAbrirPerguntamComOTituloDoComandoERespeitamCancelar)
 
 TEST(SessaoEdicao, AbrirRecusaOutroFormatoEEncerraOProgramaNumArquivoIlegivel)
 {
-    ConfigTemporaria cfg;
     Sessao s;
-    const QString bom = GravarLayout(cfg.Pasta() + QStringLiteral("/bom.lmt"), 40);
-    LayoutDocumento lido;
-    ASSERT_TRUE(AbrirArquivoLMT(bom, lido).ok);
-    s.QualidadeJPGSessao = 50;
-    EXPECT_EQ(s.AbrirLMT(bom), SessaoEdicao::ResultadoAbrir::Aberto);
-    EXPECT_EQ(s.Documento, lido);
-    EXPECT_EQ(s.QualidadeJPGSessao, 0);
+    const QString bom = GravarLayout(s.Arquivo("bom.lmt"), 40);
     s.ui.arquivos = {QString()};
     EXPECT_EQ(s.AbrirLMT(QString()), SessaoEdicao::ResultadoAbrir::Cancelado);
-    EXPECT_EQ(s.NomeArquivo, bom);
+    EXPECT_EQ(s.AbrirLMT(bom), SessaoEdicao::ResultadoAbrir::Aberto);
+    const LayoutDocumento lido = s.Documento;
+    EXPECT_EQ(lido.banda(2).Altura, 40);
 
     // Another format, or shorter than a header: refused and replaced by a new
     // layout, never the end of the editor.
-    const QString novo = cfg.Pasta() + QStringLiteral("/novo.lmt");
     for (const char *conteudo : {"LumetaEdit 1.0(v)               xxxx", "LumetaEdit 1.0(t)"}) {
-        teste::GravarArquivoTeste(novo, conteudo);
+        teste::GravarArquivoTeste(s.Arquivo("novo.lmt"), conteudo);
         s.AbrirLMT(bom);
         s.ui.mensagens.clear();
-        EXPECT_EQ(s.AbrirLMT(novo), SessaoEdicao::ResultadoAbrir::FormatoInvalido) << conteudo;
+        EXPECT_EQ(s.AbrirLMT(s.Arquivo("novo.lmt")), SessaoEdicao::ResultadoAbrir::FormatoInvalido) << conteudo;
         ASSERT_EQ(s.ui.mensagens.size(), 1);
-        EXPECT_EQ(s.ui.mensagens[0].texto, MensagemFormatoInvalido(novo));
-        EXPECT_TRUE(s.ui.mensagens[0].texto.startsWith(QStringLiteral("Formato inválido!")));
         EXPECT_EQ(s.ui.mensagens[0].titulo, QStringLiteral("Impossível Abrir"));
         EXPECT_EQ(s.Documento, SessaoEdicao().Documento);
     }
-
     // A layout cut short: the program ends, the name stays.
     s.AbrirLMT(bom);
     s.Alterado = false;
-    const QString quebrado = cfg.Pasta() + QStringLiteral("/quebrado.lmt");
-    teste::GravarArquivoTeste(quebrado, GravarLMT(lido).left(60));
-    s.ui.arquivos = {quebrado};
+    teste::GravarArquivoTeste(s.Arquivo("quebrado.lmt"), GravarLMT(lido).left(60));
+    s.ui.arquivos = {s.Arquivo("quebrado.lmt")};
     s.eventos.clear();
     s.ComandoAbrir();
     EXPECT_EQ(s.eventos, QStringList({"encerrar"}));
     EXPECT_EQ(s.NomeArquivo, bom);
-    ASSERT_FALSE(s.ui.mensagens.isEmpty());
-    EXPECT_TRUE(s.ui.mensagens.last().texto.startsWith(ErroAbrir + quebrado + QStringLiteral("!\n\n")));
-    EXPECT_EQ(s.ui.mensagens.last().icone, Icone::Exclamacao);
+    EXPECT_TRUE(s.ui.mensagens.last().texto.startsWith(QStringLiteral("Ocorreu um erro ao abrir o arquivo '")));
 }
 
 TEST(SessaoEdicao, SalvarPedeNomeSoQuandoNaoHaESalvarComoPropoeOAnteriorERestauraAoCancelar)
 {
-    ConfigTemporaria cfg;
     Sessao s;
-    const QString a = cfg.Pasta() + QStringLiteral("/a.lmt");
-    s.ui.arquivos = {a};
+    const QString a = s.Arquivo("a.lmt"), b = s.Arquivo("b.lmt"), ruim = s.Arquivo("x/y.lmt");
+    s.ui.arquivos = {a, QString(), b, ruim};
     EXPECT_TRUE(s.ComandoSalvar());
-    ASSERT_EQ(s.ui.dialogos.size(), 1);
-    EXPECT_TRUE(s.ui.dialogos[0].nomeProposto.isEmpty());
-    EXPECT_EQ(s.ui.dialogos[0].filtro, QStringLiteral("Lumeta Layout (*.lmt)|*.lmt"));
-    EXPECT_EQ(s.NomeArquivo, a);
-    EXPECT_EQ(s.Titulo(), QStringLiteral("LumetaEdit 2.0 - [") + a + QStringLiteral("]"));
     EXPECT_EQ(teste::LerArquivo(a), GravarLMT(s.Documento));
-
     // Save with a name writes without asking.
     s.Editar();
     EXPECT_TRUE(s.ComandoSalvar());
@@ -286,85 +219,57 @@ TEST(SessaoEdicao, SalvarPedeNomeSoQuandoNaoHaESalvarComoPropoeOAnteriorERestaur
     EXPECT_FALSE(s.Alterado);
 
     s.Editar();
-    s.ui.arquivos = {QString()};
     EXPECT_FALSE(s.ComandoSalvarComo());
-    EXPECT_EQ(s.ui.dialogos.last().nomeProposto, a);
-    EXPECT_EQ(s.NomeArquivo, a);
-    EXPECT_TRUE(s.Alterado);
-
-    const QString b = cfg.Pasta() + QStringLiteral("/b.lmt");
-    s.ui.arquivos = {b};
+    EXPECT_EQ(std::pair(s.NomeArquivo, s.Alterado), std::pair(a, true));
     EXPECT_TRUE(s.ComandoSalvarComo());
-    EXPECT_EQ(s.NomeArquivo, b);
-    EXPECT_FALSE(s.Alterado);
-    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({b, a}));
+    EXPECT_EQ(std::pair(s.NomeArquivo, s.Alterado), std::pair(b, false));
+    ASSERT_EQ(s.ui.dialogos.size(), 3);
+    EXPECT_EQ(s.ui.dialogos[0].filtro, QStringLiteral("Lumeta Layout (*.lmt)|*.lmt"));
+    EXPECT_EQ(std::pair(s.ui.dialogos[0].nomeProposto, s.ui.dialogos[1].nomeProposto), std::pair(QString(), a));
 
     // A failed write tells the user and keeps the path being written.
-    const QString ruim = cfg.Pasta() + QStringLiteral("/x/y.lmt");
     s.NomeArquivo.clear();
-    s.ui.arquivos = {ruim};
     s.Alterado = true;
     EXPECT_FALSE(s.SalvarLMT(false));
-    EXPECT_EQ(s.NomeArquivo, ruim);
-    EXPECT_TRUE(s.Alterado);
-    ASSERT_EQ(s.ui.mensagens.size(), 1);
-    EXPECT_EQ(s.ui.mensagens[0].icone, Icone::Exclamacao);
-    EXPECT_TRUE(s.ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '") + ruim));
+    EXPECT_EQ(std::pair(s.NomeArquivo, s.Alterado), std::pair(ruim, true));
+    EXPECT_EQ(s.ui.mensagens.size(), 1);
 }
 
 TEST(SessaoEdicao, ArquivosRecentesSemRepeticaoNoMaximoQuatroEParandoNoPrimeiroVazio)
 {
-    ConfigTemporaria cfg;
+    Sessao s;
     {
         std::unique_ptr<QSettings> st(AbrirConfig());
         const char *nomes[] = {"c:\\A.LMT", "d.lmt", "e.lmt", "f.lmt"};
         for (int k = 1; k <= 4; ++k)
             st->setValue(QStringLiteral("Arquivo recente %1").arg(k), QString::fromLatin1(nomes[k - 1]));
     }
-    Sessao s;
-    int reconstrucoes = 0;
-    s.Ganchos.ArquivosRecentes = [&] { ++reconstrucoes; };
     s.ArquivosRecentes();
-    EXPECT_EQ(reconstrucoes, 1);
-    s.Config.GravarRecentes(QStringLiteral("C:\\a.lmt"));
-    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({"C:\\a.lmt", "d.lmt", "e.lmt", "f.lmt"}));
-    s.Config.GravarRecentes(QStringLiteral("g.lmt"));
-    s.Config.GravarRecentes(QStringLiteral("E.LMT"));
-    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({"E.LMT", "g.lmt", "C:\\a.lmt", "d.lmt"}));
-    // Re-read from the store: the same list.
-    s.ArquivosRecentes();
+    for (const char *nome : {"C:\\a.lmt", "g.lmt", "E.LMT"})
+        s.Config.GravarRecentes(QString::fromLatin1(nome));
     EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({"E.LMT", "g.lmt", "C:\\a.lmt", "d.lmt"}));
     // A hole in the list hides everything after it.
     std::unique_ptr<QSettings>(AbrirConfig())->setValue(QStringLiteral("Arquivo recente 2"), QString());
     s.ArquivosRecentes();
     EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({"E.LMT"}));
     s.ComandoExcluirRecentes();
-    EXPECT_TRUE(s.Config.ArquivosRecentes.isEmpty());
-    for (const char *k : {"Arquivo recente 1", "Arquivo recente 2", "Arquivo recente 3", "Arquivo recente 4"})
-        EXPECT_EQ(Valor(k), QString()) << k;
+    EXPECT_EQ(Valor("Arquivo recente 1"), QString());
 
     // A recent file that is gone: its path, and nothing changes.
-    const QString sumido = cfg.Pasta() + QStringLiteral("/sumido.lmt");
-    const QString existe = GravarLayout(cfg.Pasta() + QStringLiteral("/sub/existe.lmt"), 22);
+    const QString sumido = s.Arquivo("sumido.lmt");
+    const QString existe = GravarLayout(s.Arquivo("sub/existe.lmt"), 22);
     s.Config.GravarRecentes(existe);
     s.Config.GravarRecentes(sumido);
     s.Editar();
     s.ComandoAbrirRecente(1);
     ASSERT_EQ(s.ui.mensagens.size(), 1);
     EXPECT_EQ(s.ui.mensagens[0].texto, sumido + QStringLiteral("\n\nNão foi possível encontrar o arquivo acima!"));
-    EXPECT_EQ(s.ui.mensagens[0].icone, Icone::Informacao);
-    EXPECT_TRUE(s.ui.perguntas.isEmpty());
-    EXPECT_EQ(s.Documento.NumBandas(), 2);
-    EXPECT_TRUE(s.Alterado);
-    EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({sumido, existe}));
+    EXPECT_TRUE(s.ui.perguntas.isEmpty() && s.Alterado);
     // One that is there opens and makes its folder the current one.
     const QString antes = QDir::currentPath();
     s.ui.respostas = {Resposta::Nao};
     s.ComandoAbrirRecente(2);
-    EXPECT_EQ(s.ui.perguntas.last().titulo, QStringLiteral("Abrir"));
-    EXPECT_EQ(s.NomeArquivo, existe);
     EXPECT_EQ(s.Documento.banda(2).Altura, 22);
-    EXPECT_FALSE(s.Alterado);
     EXPECT_EQ(QDir::currentPath(), QFileInfo(existe).absolutePath());
     EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({existe, sumido}));
     QDir::setCurrent(antes);
@@ -374,23 +279,16 @@ TEST(SessaoEdicao, InicioComCaminhoEntreAspasAbreSemAlteracaoESemArgumentoRegist
 {
     ConfigTemporaria cfg;
     const QString caminho = GravarLayout(cfg.Pasta() + QStringLiteral("/Meus Layouts/rel.lmt"), 25, 300);
+    const QString programa = QStringLiteral("/opt/lumeta/lumetaedit");
     {
         Sessao s;
-        int titulos = 0;
-        s.Ganchos.Titulo = [&] { ++titulos; };
         // The desktop hands the quoted path split at its blank.
         const QStringList args = {QStringLiteral("\"") + cfg.Pasta() + QStringLiteral("/Meus"),
                                   QStringLiteral("Layouts/rel.lmt\"")};
-        EXPECT_EQ(ArgumentoCaminho(args), caminho);
-        ASSERT_TRUE(s.Iniciar(args, QStringLiteral("/opt/lumeta/"), QStringLiteral("/opt/lumeta/lumetaedit")));
-        EXPECT_EQ(s.NomeArquivo, caminho);
+        ASSERT_TRUE(s.Iniciar(args, QStringLiteral("/opt/lumeta/"), programa));
         EXPECT_EQ(s.Documento.banda(2).Itens[0].Largura, 300);
         EXPECT_FALSE(s.Alterado || s.PodeDesfazer());
-        EXPECT_GE(titulos, 1);
-        EXPECT_EQ(s.Config.ArquivosRecentes, QStringList({caminho}));
-        // No association with a file argument.
-        EXPECT_FALSE(QDir(cfg.Dados()).exists());
-        EXPECT_EQ(s.ArquivoVisualizacao, PastaTemporaria() + QStringLiteral("Lumeta.tmp"));
+        EXPECT_FALSE(QDir(s.cfg.Dados()).exists());   // no association with a file argument
         EXPECT_EQ(s.ArquivoTransferencia, PastaTemporaria() + QStringLiteral("~TMP_LumetaEdit.clp"));
         EXPECT_EQ(Valor("Pasta"), QStringLiteral("/opt/lumeta/"));
     }
@@ -399,48 +297,33 @@ TEST(SessaoEdicao, InicioComCaminhoEntreAspasAbreSemAlteracaoESemArgumentoRegist
         const QString antes = QDir::currentPath();
         QDir::setCurrent(cfg.Pasta());
         Sessao s;
-        ASSERT_TRUE(s.Iniciar({QStringLiteral("\"Meus Layouts/./rel.lmt\"")}, QStringLiteral("/p/"),
-                              QStringLiteral("/p/lumetaedit")));
+        ASSERT_TRUE(s.Iniciar({QStringLiteral("\"Meus Layouts/./rel.lmt\"")}, QStringLiteral("/p/"), programa));
         EXPECT_EQ(s.NomeArquivo, caminho);
         QDir::setCurrent(antes);
     }
     {
-        Sessao s;
-        ASSERT_TRUE(s.Iniciar({}, QStringLiteral("/opt/lumeta/"), QStringLiteral("/opt/lumeta/lumetaedit")));
-        EXPECT_TRUE(s.ui.mensagens.isEmpty());
         // Without a file the type is registered, for this program's path.
-        const QByteArray desktop = teste::LerArquivo(cfg.Dados() + QStringLiteral("/applications/lumetaedit.desktop"));
-        EXPECT_TRUE(desktop.contains("\nExec=/opt/lumeta/lumetaedit %f\n")) << desktop.constData();
-    }
-    {
-        // An unreadable file on the command line ends the program.
-        const QString ruim = cfg.Pasta() + QStringLiteral("/ruim.lmt");
-        teste::GravarArquivoTeste(ruim, GravarLMT(LayoutDocumento()).left(33));
         Sessao s;
-        EXPECT_FALSE(s.Iniciar({ruim}, QStringLiteral("/p/"), QStringLiteral("/p/lumetaedit")));
-        ASSERT_EQ(s.ui.mensagens.size(), 1);
-        EXPECT_TRUE(s.ui.mensagens[0].texto.startsWith(ErroAbrir));
+        ASSERT_TRUE(s.Iniciar({}, QStringLiteral("/opt/lumeta/"), programa));
+        const QByteArray desktop = teste::LerArquivo(s.cfg.Dados() + QStringLiteral("/applications/lumetaedit.desktop"));
+        EXPECT_TRUE(desktop.contains("\nExec=/opt/lumeta/lumetaedit %f\n")) << desktop.constData();
+        // An unreadable file on the command line ends the program.
+        teste::GravarArquivoTeste(s.Arquivo("ruim.lmt"), GravarLMT(LayoutDocumento()).left(33));
+        EXPECT_FALSE(s.Iniciar({s.Arquivo("ruim.lmt")}, QStringLiteral("/p/"), programa));
+        EXPECT_EQ(s.ui.mensagens.size(), 1);
     }
 }
 
-TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
+TEST(SessaoEdicao, SaidaGravaAsConfiguracoesDeVisaoEOProximoInicioAsLe)
 {
-    ConfigTemporaria cfg;
     Sessao s;
     int unidades = 0, resultados = 0;
     s.Ganchos.UnidadeAlterada = [&] { ++unidades; };
     s.Ganchos.ResultadoAlternado = [&] { ++resultados; };
     ASSERT_TRUE(s.Iniciar({}, QStringLiteral("/p/"), QStringLiteral("/p/lumetaedit")));
-    EXPECT_EQ(s.Config.UnidadeMedida, 3);
-    EXPECT_TRUE(s.Config.ExibirResultado && s.Config.MagicItem && s.Config.NoCobolUsarString);
-    EXPECT_FALSE(s.Config.FontesImpressora);
-    EXPECT_EQ(std::make_pair(unidades, resultados), std::make_pair(1, 1));
-
     s.DefinirUnidade(UnidadePolegadas);
-    EXPECT_EQ(s.UnidadeAtual.decimais, 5);
     s.DefinirUnidade(4);     // unknown: pixels, the label stays
-    EXPECT_EQ(s.UnidadeAtual.fator, 1.0);
-    EXPECT_EQ(s.UnidadeAtual.rotulo, QStringLiteral("pol"));
+    EXPECT_EQ(std::pair(s.UnidadeAtual.fator, s.UnidadeAtual.rotulo), std::pair(1.0, QStringLiteral("pol")));
     s.DefinirUnidade(UnidadeMilimetros);
     s.AlternarResultado();
     s.AlternarFontesImpressora();
@@ -453,12 +336,10 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
     // New items take the default font at once.
     s.AddItem(1, false, 0);
     EXPECT_EQ(s.Documento.banda(1).Itens.last().Fonte, s.FontePadrao);
-    EXPECT_EQ(std::make_pair(unidades, resultados), std::make_pair(4, 2));
+    EXPECT_EQ(std::make_pair(unidades, resultados), std::make_pair(4, 2));   // the start's own included
 
-    s.ArquivoVisualizacao = cfg.Pasta() + QStringLiteral("/Lumeta.tmp");
-    QFile previa(s.ArquivoVisualizacao);
-    ASSERT_TRUE(previa.open(QIODevice::WriteOnly));
-    previa.close();
+    s.ArquivoVisualizacao = s.Arquivo("Lumeta.tmp");
+    teste::GravarArquivoTeste(s.ArquivoVisualizacao, "x");
     s.FinalizarSaida();
     EXPECT_FALSE(QFile::exists(s.ArquivoVisualizacao));
     const std::pair<const char *, const char *> gravados[] = {
@@ -471,13 +352,11 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
     // The next start reads them back; "-1" is true as well, and a hand-edited
     // size stays within the two digits of the command text.
     std::unique_ptr<QSettings>(AbrirConfig())->setValue(QStringLiteral("Fontes Impressora"), QStringLiteral("-1"));
-    Sessao t;
+    SessaoEdicao t;
     ASSERT_TRUE(t.Iniciar({}, QStringLiteral("/p/"), QStringLiteral("/p/lumetaedit")));
     EXPECT_EQ(t.Config.UnidadeMedida, UnidadeMilimetros);
-    EXPECT_FALSE(t.Config.ExibirResultado || t.Config.MagicItem);
-    EXPECT_TRUE(t.Config.FontesImpressora);
-    EXPECT_EQ(t.FontePadrao.Nome, QStringLiteral("Courier New"));
-    EXPECT_EQ(t.Documento.banda(1).Itens[0].Fonte.Tamanho, 12);
+    EXPECT_FALSE(t.Config.ExibirResultado || t.Config.MagicItem || !t.Config.FontesImpressora);
+    EXPECT_EQ(t.Documento.banda(1).Itens[0].Fonte, s.FontePadrao);
     for (const auto &[escrito, lido] : {std::pair{"500", 99}, {"0", 1}}) {
         std::unique_ptr<QSettings>(AbrirConfig())->setValue(QStringLiteral("FontSize"), QString::fromLatin1(escrito));
         Configuracoes c;
@@ -488,7 +367,6 @@ TEST(SessaoEdicao, PrimeiroInicioUsaOsPadroesESaidaGravaAsConfiguracoesDeVisao)
 
 TEST(SessaoEdicao, OpcoesDoMenuConfigurarMudamODocumentoEOTexto)
 {
-    ConfigTemporaria cfg;
     Sessao s;
     s.AlternarImprimir();
     s.AlternarVisivel();
@@ -496,53 +374,33 @@ TEST(SessaoEdicao, OpcoesDoMenuConfigurarMudamODocumentoEOTexto)
     s.AlternarEnviarEmail();
     EXPECT_TRUE(s.Alterado);
     EXPECT_EQ(Linhas(s.TextoResultado).mid(0, 6), QStringList({"QJ 92", "IR", "SV", "TC", "E ", "F 100000Arial"}));
-
-    // E-mail types: PDF in a fresh session takes 100, JPG 92; after a quality
-    // was chosen in this session both take it.
-    s.DefinirTipoEmail(4);
-    EXPECT_TRUE(s.TextoResultado.startsWith(QStringLiteral("EP 100\r\n")));
+    // E-mail types: JPG in a fresh session takes 92; after a quality was
+    // chosen in this session PDF takes it too.
     s.DefinirTipoEmail(1);
     EXPECT_EQ(s.Documento.QualidadeJPG, 92);
     s.QualidadeJPGSessao = 75;
     s.DefinirTipoEmail(4);
     EXPECT_EQ(s.Documento.QualidadeJPG, 75);
-    EXPECT_EQ(s.Documento.TipoEmail, 4);
 
     // Landscape repaints without a snapshot but marks the document changed.
     const int antes = s.Desfazer.PosicaoDesfazer;
     s.Alterado = false;
     s.eventos.clear();
     s.AlternarPaisagem();
-    EXPECT_TRUE(s.Documento.Paisagem && s.Alterado);
+    EXPECT_TRUE(s.Documento.Paisagem && s.Alterado && s.eventos.contains(QStringLiteral("pintar")));
     EXPECT_EQ(s.Desfazer.PosicaoDesfazer, antes);
-    EXPECT_TRUE(s.eventos.contains(QStringLiteral("pintar")));
-
+    // Another window may have chosen another copybook since: the store wins.
     s.DefinirCPY(QStringLiteral("Cobol"));
     EXPECT_EQ(Valor("CPY"), QStringLiteral("Cobol"));
-    // Another window may have chosen another one since: the store wins.
     std::unique_ptr<QSettings>(AbrirConfig())->setValue(QStringLiteral("CPY"), QStringLiteral("Java"));
     EXPECT_EQ(s.LerCPY(), QStringLiteral("Java"));
     EXPECT_EQ(s.Config.CPY, QStringLiteral("Java"));
-}
-
-TEST(ModuloLumetaEdit, CaminhoLongoNomeETamanhoDeFonte)
-{
-    ConfigTemporaria cfg;
-    QDir().mkpath(cfg.Pasta() + QStringLiteral("/Pasta A"));
-    EXPECT_EQ(CaminhoLongo(cfg.Pasta() + QStringLiteral("/Pasta A/../Pasta A//x.lmt")),
-              cfg.Pasta() + QStringLiteral("/Pasta A/x.lmt"));
-    EXPECT_EQ(CaminhoLongo(QString()), QString());
-    EXPECT_EQ(NomeDoArquivo(QStringLiteral("c:\\x\\rel.lmt")), QStringLiteral("rel.lmt"));
-    EXPECT_EQ(NomeDoArquivo(QStringLiteral("/a/b/rel.lmt")), QStringLiteral("rel.lmt"));
-    EXPECT_EQ(TamanhoFonteEscolhido(99.6), 8);
-    EXPECT_EQ(TamanhoFonteEscolhido(12.5), 12);
 }
 
 TEST(ModuloAssociar, RegistraTipoIconeEComandoEParaNaPrimeiraFalha)
 {
     ConfigTemporaria cfg;
     InterfaceRoteirizada ui;
-    EXPECT_EQ(LinhaComandoAbrir(QStringLiteral("/opt/lumeta/lumetaedit")), QStringLiteral("/opt/lumeta/lumetaedit %f"));
     EXPECT_EQ(LinhaComandoAbrir(QStringLiteral("/opt/Meu Lumeta/lumetaedit")),
               QStringLiteral("\"/opt/Meu Lumeta/lumetaedit\" %f"));
     const auto associar = [&] {
@@ -550,18 +408,12 @@ TEST(ModuloAssociar, RegistraTipoIconeEComandoEParaNaPrimeiraFalha)
                         QStringLiteral("/opt/l/lumetaedit"), &ui);
     };
     ASSERT_TRUE(associar());
-    EXPECT_TRUE(ui.mensagens.isEmpty());
     const QString mime = QString::fromUtf8(teste::LerArquivo(cfg.Dados() + QStringLiteral("/mime/packages/lumetaedit-lmt.xml")));
-    for (const char *linha : {"<mime-type type=\"application/x-lumeta-lmt\">", "<glob pattern=\"*.lmt\"/>"})
-        EXPECT_TRUE(mime.contains(QString::fromLatin1(linha))) << linha;
+    EXPECT_TRUE(mime.contains(QStringLiteral("<mime-type type=\"application/x-lumeta-lmt\">"))) << mime.toStdString();
     QImage icone(cfg.Dados() + QStringLiteral("/icons/hicolor/48x48/mimetypes/application-x-lumeta-lmt.png"));
     ASSERT_EQ(icone.size(), QSize(48, 48));
     EXPECT_EQ(QColor(icone.pixel(20, 16)), QColor(40, 110, 200));   // the header band
     EXPECT_EQ(qAlpha(icone.pixel(1, 1)), 0);
-    EXPECT_TRUE(QFile::exists(cfg.Dados() + QStringLiteral("/icons/hicolor/48x48/apps/lumetaedit.png")));
-    const QString desktop = QString::fromUtf8(teste::LerArquivo(cfg.Dados() + QStringLiteral("/applications/lumetaedit.desktop")));
-    EXPECT_TRUE(desktop.startsWith(QStringLiteral("[Desktop Entry]\n")));
-    EXPECT_TRUE(desktop.contains(QStringLiteral("\nExec=/opt/l/lumetaedit %f\n")));
 
     // The first key cannot be created: a message, false, and nothing more written.
     ConfigTemporaria outra;
@@ -569,10 +421,7 @@ TEST(ModuloAssociar, RegistraTipoIconeEComandoEParaNaPrimeiraFalha)
     EXPECT_FALSE(associar());
     ASSERT_EQ(ui.mensagens.size(), 1);
     EXPECT_TRUE(ui.mensagens[0].texto.startsWith(QStringLiteral("Não foi possível criar ou abrir a entrada do registro: ")
-                                                  + outra.Dados() + QStringLiteral("/mime/packages")));
-    EXPECT_TRUE(ui.mensagens[0].texto.contains(QStringLiteral("\n\nOcorreu o erro: ")));
-    EXPECT_EQ(ui.mensagens[0].icone, Icone::Exclamacao);
-
+                                                  + outra.Dados() + QStringLiteral("/mime/packages\n\nOcorreu o erro: ")));
     // A value that cannot be written (a folder stands where the file goes).
     ConfigTemporaria terceira;
     QDir().mkpath(terceira.Dados() + QStringLiteral("/mime/packages/lumetaedit-lmt.xml"));
@@ -581,8 +430,6 @@ TEST(ModuloAssociar, RegistraTipoIconeEComandoEParaNaPrimeiraFalha)
     EXPECT_TRUE(ui.mensagens[1].texto.startsWith(
         QStringLiteral("Não foi possível salvar o valor do registro: lumetaedit-lmt.xml\n\nOcorreu o erro: ")));
     EXPECT_FALSE(QDir(terceira.Dados() + QStringLiteral("/applications")).exists());
-    EXPECT_FALSE(QDir(terceira.Dados() + QStringLiteral("/icons")).exists());
-
     // Without showing errors the failure is silent.
     EXPECT_FALSE(GravarRegistro(QStringLiteral("mime/packages"), RegistroTexto, QStringLiteral("lumetaedit-lmt.xml"),
                                 "x", false, true, &ui));

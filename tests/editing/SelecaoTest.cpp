@@ -102,8 +102,9 @@ TEST_F(Selecao, ArrastarSelecionaORetanguloEVoltarAoItemLimpa)
     for (const auto &[p, faixa] : arrastes) {
         ArrastarSelecao(s, p.x(), p.y());
         EXPECT_EQ(s.Faixa.visivel, faixa.visivel) << p.x() << "," << p.y();
-        if (faixa.visivel)
+        if (faixa.visivel) {
             EXPECT_EQ(s.Faixa, faixa) << p.x() << "," << p.y();
+        }
     }
     // From band 3 upwards, above band 1 and in the gap: the first band whose
     // top is below the pointer.

@@ -5,7 +5,8 @@
 
 namespace lumeta::teste {
 
-QImage ImagemParaLeitura(const QImage &figura, int escala)
+// The quiet zone: 20 pixels of the painted picture on every side.
+static QImage ImagemParaLeitura(const QImage &figura, int escala)
 {
     const int margem = 20;
     QImage g(figura.width() + 2 * margem, figura.height() + 2 * margem, QImage::Format_RGB32);

@@ -17,10 +17,6 @@ struct Leitura {
     QByteArray bytes;    // the raw data bytes, for code-page checks
 };
 
-// Adds the quiet zone (20 pixels of the painted picture on every side) and
-// scales by nearest neighbour.
-QImage ImagemParaLeitura(const QImage &figura, int escala);
-
 Leitura LerCodigoBarras(const QImage &figura, ZXing::BarcodeFormat formato, int escala = 3,
                         bool validarCode39 = false);
 

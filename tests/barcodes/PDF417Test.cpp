@@ -5,6 +5,7 @@
 #include "barcodes/DesenhoBarras.h"
 #include "barcodes/LeitorCodigoBarras.h"
 #include "barcodes/ModPDF417.h"
+#include "canvas/ApoioCanvas.h"
 #include "document/Texto1252.h"
 
 #include <QDir>
@@ -29,17 +30,11 @@ std::string LinhaComoTexto(const QByteArray &m, int porLinha, int linha, int de,
     return s;
 }
 
-bool Preto(const QImage &img, int x, int y)
-{
-    return img.pixel(x, y) == qRgb(0, 0, 0);
-}
+bool Preto(const QImage &img, int x, int y) { return img.pixel(x, y) == qRgb(0, 0, 0); }
 
 void ConferirFiguraVazia(const QImage &img)
 {
-    ASSERT_EQ(img.size(), QSize(8, 8));
-    for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < 8; ++x)
-            ASSERT_EQ(img.pixel(x, y), qRgb(255, 255, 255));
+    EXPECT_TRUE(img.size() == QSize(8, 8) && teste::Todos(img, img.rect(), qRgb(255, 255, 255)));
 }
 
 }  // namespace
@@ -64,15 +59,11 @@ TEST(PDF417, MatrizLinhaALinhaComBitMaisSignificativoAEsquerda)
         EXPECT_EQ(LinhaComoTexto(m, porLinha, y, largura, porLinha * 8), std::string(porLinha * 8 - largura, '0'));
     }
 
-    EXPECT_EQ(BytesPorLinhaPDF417(17), 3);
-    EXPECT_EQ(BytesPorLinhaPDF417(16), 2);
-    EXPECT_EQ(BytesPorLinhaPDF417(1), 1);
+    EXPECT_EQ((std::array{BytesPorLinhaPDF417(17), BytesPorLinhaPDF417(16), BytesPorLinhaPDF417(1)}), (std::array{3, 2, 1}));
 
     // Failures: nothing to encode, or more than one symbol holds.
     EXPECT_EQ(GetPDF417(QByteArray(), m, numBytes, largura), 0);
-    EXPECT_TRUE(m.isEmpty());
-    EXPECT_EQ(numBytes, 0);
-    EXPECT_EQ(largura, 0);
+    EXPECT_TRUE(m.isEmpty() && numBytes == 0 && largura == 0);
     QByteArray enorme(3000, '\xE9');
     EXPECT_EQ(GetPDF417(enorme, m, numBytes, largura), 0);
     EXPECT_EQ(numBytes, 0);
@@ -104,22 +95,13 @@ TEST(PDF417, DesenhoDaMatrizTresPixelsPorModulo)
     const QString pastaAntes = QDir::currentPath();
     QImage img;
     DesenharPDF417(img, QStringLiteral("Ação €"), 0, falso);
-    EXPECT_EQ(chamadas, 1);
-    EXPECT_EQ(recebido, QByteArray("A\xE7\xE3o \x80"));
+    EXPECT_EQ(std::pair(chamadas, recebido), std::pair(1, QByteArray("A\xE7\xE3o \x80")));
     EXPECT_EQ(QDir(pastaDuranteAChamada).canonicalPath(), QDir(QDir::tempPath()).canonicalPath());
     EXPECT_EQ(QDir::currentPath(), pastaAntes);
     ASSERT_EQ(img.size(), QSize(17, 30));
-    int pretos = 0;
     for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 17; ++x) {
-            const int r = y / 3;
-            const bool esperado = x == r || x == 16;
-            EXPECT_EQ(Preto(img, x, y), esperado) << x << "," << y;
-            pretos += Preto(img, x, y) ? 1 : 0;
-        }
-    EXPECT_EQ(pretos, 10 * 2 * 3);
-
-    // Turned symbols and other row widths: the real symbols read back below.
+        for (int x = 0; x < 17; ++x)
+            EXPECT_EQ(Preto(img, x, y), x == y / 3 || x == 16) << x << "," << y;
 }
 
 TEST(PDF417, VazioOuFalhaDeixaFigura8x8EmBranco)
@@ -141,13 +123,11 @@ TEST(PDF417, VazioOuFalhaDeixaFigura8x8EmBranco)
     ConferirFiguraVazia(img);
 
     // A reported success with no width or no bytes is a failure too.
-    const FuncaoGetPDF417 semLargura = [](const QByteArray &, QByteArray &m, int &n, int &w) {
+    DesenharPDF417(img, QStringLiteral("abc"), 0, [](const QByteArray &, QByteArray &m, int &n, int &w) {
         m = QByteArray(6, '\xFF');
-        n = 6;
-        w = 0;
+        n = 6, w = 0;
         return 1;
-    };
-    DesenharPDF417(img, QStringLiteral("abc"), 0, semLargura);
+    });
     ConferirFiguraVazia(img);
 
     // With the real encoder: an empty value and a value too long for a symbol.

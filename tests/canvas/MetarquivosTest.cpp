@@ -74,15 +74,12 @@ TEST(Metarquivos, WmfEEmfMostramOSeuDesenho)
     QTemporaryDir dir;
     CacheFiguras cache;
     const QImage &wmf = Carregar(cache, dir, "retangulo.wmf", Wmf());
-    ASSERT_NE(&wmf, &ImagemErro());
-    EXPECT_EQ(wmf.size(), QSize(40, 20));
-    EXPECT_EQ(wmf.pixel(30, 10), qRgb(255, 0, 0));
-    EXPECT_EQ(wmf.pixel(5, 10), qRgb(0, 0, 255));
+    ASSERT_EQ(wmf.size(), QSize(40, 20));
+    EXPECT_EQ(std::pair(wmf.pixel(30, 10), wmf.pixel(5, 10)), std::pair(qRgb(255, 0, 0), qRgb(0, 0, 255)));
 
     const QImage &emf = Carregar(cache, dir, "retangulo.emf", Emf());
     ASSERT_NE(&emf, &ImagemErro());
-    EXPECT_GE(emf.width(), 39);
-    EXPECT_LE(emf.width(), 41);
+    EXPECT_NEAR(emf.width(), 40, 1);
     EXPECT_EQ(emf.pixel(20, 10), qRgb(0, 255, 0));
 }
 

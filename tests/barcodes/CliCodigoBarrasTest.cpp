@@ -39,21 +39,17 @@ TEST(CliCodigoBarras, GravaAFiguraDoCodificadorEmPNG)
         const char *valor;
         const char *angulo;
     };
-    const Caso casos[] = {
-        {31, "590123412345", "0"}, {32, "1234567", "90"}, {33, "ab*c", "180"}, {34, "12a4", "270"},
-        {35, "12345", "90"},       {36, "a_b", "0"},      {37, "12345", "180"}, {38, "12345", "270"},
-        {39, "Olá ~", "0"},        {80, "Ação 123", "90"},
-    };
+    // Every angle, and a linear and a PDF417 symbol turned; the drawing of
+    // each type is pinned by the drawing tests.
+    const Caso casos[] = {{33, "ab*c", "180"}, {34, "12a4", "270"}, {39, "Olá ~", "0"}, {80, "Ação 123", "90"}};
     for (const Caso &c : casos) {
         const QString arquivo = dir.filePath(QStringLiteral("cb%1.png").arg(c.tipo));
         const QString valor = QString::fromUtf8(c.valor);
         const Execucao e = Executar({QString::number(c.tipo), valor, arquivo, QStringLiteral("--angulo"),
                                      QString::fromLatin1(c.angulo)});
         EXPECT_EQ(e.codigo, 0) << c.tipo << " " << e.erros.toStdString();
-        QImage lida(arquivo);
-        ASSERT_FALSE(lida.isNull()) << c.tipo;
         const QImage esperada = DesenharCodigoBarras(c.tipo, valor, 40, true, QString::fromLatin1(c.angulo).toInt());
-        EXPECT_EQ(lida.convertToFormat(QImage::Format_RGB32), esperada) << c.tipo;
+        EXPECT_EQ(QImage(arquivo).convertToFormat(QImage::Format_RGB32), esperada) << c.tipo;
     }
     // Without --angulo the symbol is upright; "--angulo=N" works as well.
     const QString arquivo = dir.filePath(QStringLiteral("ean.png"));

@@ -92,15 +92,11 @@ TEST(AmostraRica, CliPngGravaOCanvasComoOEditorMostra)
     ASSERT_TRUE(AbrirArquivoLMT(lmt, doc).ok);
     ASSERT_EQ(lida.size(), QSize(1120, 1120));
     EXPECT_EQ(lida.convertToFormat(QImage::Format_RGB32), PintarAmostra(doc));
-    EXPECT_EQ(lida.pixel(776, 500), qRgb(0, 255, 255));
 
     // Wrong arguments and unreadable files.
-    EXPECT_EQ(cli({png}).first, 2);
-    EXPECT_TRUE(cli({png}).second.startsWith(QStringLiteral("Uso: lumetaedit-cli png")));
-    const auto semLayout = cli({dir.filePath(QStringLiteral("nada.lmt")), png});
-    EXPECT_EQ(semLayout.first, 1);
-    EXPECT_FALSE(semLayout.second.isEmpty());
-    const auto semPasta = cli({lmt, dir.filePath(QStringLiteral("sem/pasta/x.png"))});
-    EXPECT_EQ(semPasta.first, 1);
-    EXPECT_TRUE(semPasta.second.startsWith(QStringLiteral("Não foi possível gravar a figura")));
+    const auto uso = cli({png}), semLayout = cli({dir.filePath(QStringLiteral("nada.lmt")), png}),
+               semPasta = cli({lmt, dir.filePath(QStringLiteral("sem/pasta/x.png"))});
+    EXPECT_TRUE(uso.first == 2 && uso.second.startsWith(QStringLiteral("Uso: lumetaedit-cli png")));
+    EXPECT_TRUE(semLayout.first == 1 && !semLayout.second.isEmpty());
+    EXPECT_TRUE(semPasta.first == 1 && semPasta.second.startsWith(QStringLiteral("Não foi possível gravar a figura")));
 }

@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QPainter>
+#include <array>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
@@ -63,18 +64,18 @@ TEST(DesenharTexto, FontesDoWindowsUsamAsLiberationDeMesmasMetricas)
     // 10 points are a 13-pixel em at 15 twips per pixel; every automatic
     // height below rests on these numbers.
     EXPECT_EQ((std::array{PixelsFonte(10), PixelsFonte(8), PixelsFonte(12)}), (std::array{13, 11, 16}));
+    // Arial: height, space, "Texto" regular and bold; Arial 8; Liberation
+    // Mono at 7.8 pixels a character, like Courier New; Times.
     VarianteFonte &arial = fontes.Variante(Fonte("Arial"), 0, false);
-    EXPECT_EQ(arial.altura, 15);
-    EXPECT_EQ(arial.espaco, 4);
-    EXPECT_EQ(arial.Largura(QStringLiteral("Texto")), 32);
-    EXPECT_EQ(fontes.Variante(Fonte("Arial"), EstiloNegrito, false).Largura(QStringLiteral("Texto")), 35);
-    EXPECT_EQ(fontes.Variante(Fonte("Arial", 8), 0, false).altura, 12);
-    // Liberation Mono: 7.8 pixels a character at 13 pixels, like Courier New.
-    EXPECT_EQ(fontes.Variante(Fonte("Courier New"), 0, false).Largura(QStringLiteral("Texto")), 39);
-    EXPECT_EQ(fontes.Variante(Fonte("Times New Roman"), 0, false).altura, 15);
+    EXPECT_EQ((std::array{arial.altura, arial.espaco, arial.Largura(QStringLiteral("Texto")),
+                          fontes.Variante(Fonte("Arial"), EstiloNegrito, false).Largura(QStringLiteral("Texto")),
+                          fontes.Variante(Fonte("Arial", 8), 0, false).altura,
+                          fontes.Variante(Fonte("Courier New"), 0, false).Largura(QStringLiteral("Texto")),
+                          fontes.Variante(Fonte("Times New Roman"), 0, false).altura}),
+              (std::array{15, 4, 32, 35, 12, 39, 15}));
     // The rotated font is the medium weight unless bold.
-    EXPECT_EQ(fontes.Variante(Fonte(), 0, true).fonte.weight(), QFont::Medium);
-    EXPECT_EQ(fontes.Variante(Fonte(), EstiloNegrito, true).fonte.weight(), QFont::Bold);
+    EXPECT_EQ(std::pair(fontes.Variante(Fonte(), 0, true).fonte.weight(), fontes.Variante(Fonte(), EstiloNegrito, true).fonte.weight()),
+              std::pair(QFont::Medium, QFont::Bold));
     EXPECT_FALSE(FonteValida(Fonte("Arial", 0)) || FonteValida(Fonte("", 10)));
 }
 

@@ -14,18 +14,17 @@ TEST(ValoresCodigoBarras, CamposEConteudo)
     EXPECT_EQ(SepararConteudo(QStringLiteral("CAMPO\"X")).comando, QStringLiteral("CAMPO\"X"));
     EXPECT_TRUE(SepararConteudo(QStringLiteral("CAMPO")).texto.isEmpty());
 
-    QString texto;
-    EXPECT_EQ(ConteudoDosCampos(TipoEAN13, texto, QString()), QStringLiteral("\"\""));
-    texto = QStringLiteral("12,7");
-    EXPECT_EQ(ConteudoDosCampos(TipoEAN13, texto, QString()), QStringLiteral("\"12,7\""));
-    // A graph bar's height is a whole number, and the field shows it so.
-    EXPECT_EQ(ConteudoDosCampos(TipoBarraGrafico, texto, QString()), QStringLiteral("\"12\""));
-    EXPECT_EQ(texto, QStringLiteral("12"));
-    texto = QStringLiteral("abc");
-    EXPECT_EQ(ConteudoDosCampos(TipoBarraGrafico, texto, QString()), QStringLiteral("\"0\""));
-    texto = QStringLiteral("-7.9x");
-    EXPECT_EQ(ConteudoDosCampos(TipoBarraGrafico, texto, QStringLiteral("TOTAL")), QStringLiteral("TOTAL"));
-    EXPECT_EQ(texto, QStringLiteral("-7.9x"));  // a field leaves the height alone
+    // A graph bar's height is a whole number, and the field shows it so; a
+    // field leaves the height alone.
+    const struct { uint8_t tipo; const char *texto, *comando, *conteudo, *depois; } casos[] = {
+        {TipoEAN13, "", "", "\"\"", ""}, {TipoEAN13, "12,7", "", "\"12,7\"", "12,7"},
+        {TipoBarraGrafico, "12,7", "", "\"12\"", "12"}, {TipoBarraGrafico, "abc", "", "\"0\"", "0"},
+        {TipoBarraGrafico, "-7.9x", "TOTAL", "TOTAL", "-7.9x"}};
+    for (const auto &c : casos) {
+        QString texto = QString::fromLatin1(c.texto);
+        EXPECT_EQ(ConteudoDosCampos(c.tipo, texto, QString::fromLatin1(c.comando)), QString::fromLatin1(c.conteudo)) << c.texto;
+        EXPECT_EQ(texto, QString::fromLatin1(c.depois)) << c.texto;
+    }
     EXPECT_EQ(AlturaBarraGrafico(QStringLiteral(" -7.9x")), -7);
 }
 

@@ -1,16 +1,21 @@
 // Files under bad conditions, on the real thing: a disk filled to the last
 // byte, device nodes, FIFOs, folders, /dev/zero as input and /dev/full as the
 // CLI's standard output. Nothing old may be lost and no message may carry the
-// system's English text.
+// system's English text. Then the command-line tool as scripts call it: bytes
+// on stdout, messages on stderr, exit status.
 #include "controls/ModuloAssociar.h"
 #include "document/ArquivoDisco.h"
 #include "document/ArquivoLMT.h"
 #include "document/ModuloLumetaEdit.h"
+#include "document/Texto1252.h"
 #include "editing/SessaoEdicao.h"
 #include "output/CopiarComo.h"
 #include "output/Linguagem.h"
+#include "output/TextoComandos.h"
+#include "support/ConfigTemporaria.h"
 #include "support/InterfaceRoteirizada.h"
 #include "support/TestSupport.h"
+#include "support/VariavelTemporaria.h"
 
 #include <QDir>
 #include <QProcess>
@@ -24,6 +29,7 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
 
 using namespace lumeta;
@@ -49,19 +55,22 @@ QStringList Entradas(const QString &pasta)
 struct Execucao {
     int codigo;
     bool terminou;
-    QByteArray erros;
+    QByteArray saida, erros;
 };
 
-Execucao Cli(const QStringList &args, const QString &saida = QString(),
-             const QString &programa = QStringLiteral(LUMETA_CLI))
+// The CLI (or a shell that starts it); its standard output goes to a file
+// when one is named, else it is kept.
+Execucao Cli(const QStringList &args, const QString &arquivoSaida = QString(),
+             const QString &programa = QStringLiteral(LUMETA_CLI), const QString &pasta = QString())
 {
     QProcess p;
-    if (!saida.isEmpty())
-        p.setStandardOutputFile(saida);
+    p.setWorkingDirectory(pasta);
+    if (!arquivoSaida.isEmpty())
+        p.setStandardOutputFile(arquivoSaida);
     p.start(programa, args);
     const bool terminou = p.waitForFinished(20000);
     p.kill();
-    return {p.exitCode(), terminou, p.readAllStandardError()};
+    return {p.exitCode(), terminou, p.readAllStandardOutput(), p.readAllStandardError()};
 }
 
 // A tmpfs of a few pages in a temporary folder, unmounted at the end.
@@ -330,49 +339,20 @@ TEST(ArquivoDisco, NomesQueNaoSaoUtf8ChegamAoArquivo)
     // A Latin-1 name from the command line: created, then read back.
     QTemporaryDir dir;
     const QByteArray bruto = QFile::encodeName(dir.path()) + "/caf\xE9.lmt";
-    const Execucao novo = Cli({QStringLiteral("-c"), QStringLiteral("exec \"$0\" novo \"$1/$(printf 'caf\\351.lmt')\""),
-                               QStringLiteral(LUMETA_CLI), dir.path()},
-                              QString(), QStringLiteral("/bin/sh"));
-    ASSERT_EQ(novo.codigo, 0) << novo.erros.toStdString();
+    const Execucao r = Cli({QStringLiteral("-c"),
+                            QStringLiteral("f=\"$1/$(printf 'caf\\351.lmt')\"; \"$0\" novo \"$f\" && exec \"$0\" texto \"$f\""),
+                            QStringLiteral(LUMETA_CLI), dir.path()},
+                           QString(), QStringLiteral("/bin/sh"));
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_TRUE(r.saida.startsWith("QJ 92"));
     struct stat st;
     ASSERT_EQ(::stat(bruto.constData(), &st), 0);
     EXPECT_EQ(st.st_size, GravarLMT(SessaoEdicao().Documento).size());
-    const QString saida = dir.filePath(QStringLiteral("texto.txt"));
-    const Execucao texto = Cli({QStringLiteral("-c"), QStringLiteral("exec \"$0\" texto \"$1/$(printf 'caf\\351.lmt')\""),
-                                QStringLiteral(LUMETA_CLI), dir.path()},
-                               saida, QStringLiteral("/bin/sh"));
-    EXPECT_EQ(texto.codigo, 0) << texto.erros.toStdString();
-    EXPECT_TRUE(teste::LerArquivo(saida).startsWith("QJ 92"));
     // Qt cannot name this file to remove it with its folder.
     EXPECT_EQ(::unlink(bruto.constData()), 0);
 }
 
 namespace {
-
-// An environment variable set for one test and put back afterwards.
-class VariavelTemporaria {
-public:
-    VariavelTemporaria(const char *nome, const QString &valor)
-        : m_nome(nome), m_anterior(qgetenv(nome)), m_tinha(qEnvironmentVariableIsSet(nome))
-    {
-        if (valor.isNull())
-            qunsetenv(nome);
-        else
-            qputenv(nome, QFile::encodeName(valor));
-    }
-    ~VariavelTemporaria()
-    {
-        if (m_tinha)
-            qputenv(m_nome, m_anterior);
-        else
-            qunsetenv(m_nome);
-    }
-
-private:
-    const char *m_nome;
-    QByteArray m_anterior;
-    bool m_tinha;
-};
 
 bool Link(const QString &alvo, const QString &nome)
 {
@@ -385,8 +365,8 @@ TEST(ArquivoDisco, ArquivosTemporariosSoNumaPastaPrivadaENuncaAtravesDeUmLink)
 {
     QTemporaryDir raiz;
     ASSERT_TRUE(raiz.isValid());
-    const VariavelTemporaria tmpdir("TMPDIR", raiz.path());
-    const VariavelTemporaria execucao("XDG_RUNTIME_DIR", QString());
+    const teste::VariavelTemporaria tmpdir("TMPDIR", raiz.path());
+    const teste::VariavelTemporaria execucao("XDG_RUNTIME_DIR", QString());
     const QString vitima = raiz.filePath(QStringLiteral("vitima"));
     teste::GravarArquivoTeste(vitima, "original");
 
@@ -450,9 +430,106 @@ TEST(ArquivoDisco, ArquivosTemporariosSoNumaPastaPrivadaENuncaAtravesDeUmLink)
     ASSERT_TRUE(QDir().mkdir(runtime));
     ASSERT_EQ(::chmod(QFile::encodeName(runtime).constData(), 0700), 0);
     {
-        const VariavelTemporaria x("XDG_RUNTIME_DIR", runtime);
+        const teste::VariavelTemporaria x("XDG_RUNTIME_DIR", runtime);
         EXPECT_EQ(PastaTemporaria(), runtime + QLatin1Char('/'));
         ASSERT_EQ(::chmod(QFile::encodeName(runtime).constData(), 0755), 0);
         EXPECT_EQ(PastaTemporaria(), pasta);
     }
+}
+
+TEST(Cli, NovoTextoEComandosDaoOsBytesDoEditor)
+{
+    QTemporaryDir dir;
+    const QString novo = dir.filePath(QStringLiteral("novo.lmt"));
+    Execucao r = Cli({QStringLiteral("novo"), novo});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(teste::LerArquivo(novo), GravarLMT(SessaoEdicao().Documento));
+
+    r = Cli({QStringLiteral("texto"), novo});
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.saida, QByteArray("QJ 92\r\nF 100000Arial\r\nT 009900002000600000100010Texto 1\r\nRH 00018\r\nQL\r\n"));
+
+    SessaoEdicao s;
+    s.Documento.banda(1).Itens[0].Texto = QStringLiteral("Preço € à vista");
+    s.AddItem(1, false, 0);
+    s.AddItem(1, false, 0);
+    s.Documento.banda(1).Itens[1].Tipo = TipoComando;
+    s.Documento.banda(1).Itens[1].Texto = QStringLiteral("WS-AÇÃO");
+    s.Documento.banda(1).Itens[2].Tipo = TipoComando;
+    s.Documento.banda(1).Itens[2].Texto = QStringLiteral("WS-FIM");
+    const QString caminho = dir.filePath(QStringLiteral("acentos.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(caminho, s.Documento).ok);
+    r = Cli({QStringLiteral("texto"), caminho});
+    EXPECT_TRUE(r.saida.contains(QByteArray("T 009900002000600000100010Pre\xE7o \x80 \xE0 vista\r\n")));
+    r = Cli({QStringLiteral("comandos"), caminho});
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.saida, QByteArray("WS-A\xC7\xC3O\r\nWS-FIM\r\n"));
+}
+
+TEST(Cli, ErrosDaoAMensagemDoEditorECodigoDeSaida)
+{
+    QTemporaryDir dir;
+    const QString ruim = dir.filePath(QStringLiteral("ruim.lmt"));
+    teste::GravarArquivoTeste(ruim, "LumetaEdit 1.0(z)               ");
+    // A good header and every field, but no band.
+    const QString semBandas = dir.filePath(QStringLiteral("sem-bandas.lmt"));
+    teste::GravarArquivoTeste(semBandas, GravarLMT(LayoutDocumento()));
+    // Arguments, exit status, start of the message.
+    const std::tuple<QStringList, int, QString> casos[] = {
+        {{"texto", ruim}, 1, "Formato inválido!"},
+        {{"texto", dir.filePath(QStringLiteral("nao-existe.lmt"))}, 1, "Ocorreu um erro ao abrir o arquivo '"},
+        {{"png", semBandas, dir.filePath(QStringLiteral("s.png"))}, 1, "Ocorreu um erro ao abrir o arquivo '"},
+        {{"novo", dir.filePath(QStringLiteral("sem/pasta.lmt"))}, 1, "Ocorreu um erro ao gravar o arquivo '"},
+        {{"texto"}, 2, "Uso: lumetaedit-cli texto"},
+        // An option is never taken for a file name.
+        {{"novo", "--help"}, 2, "Uso: lumetaedit-cli novo"},
+        {{"inexistente"}, 2, "Comando desconhecido: inexistente"},
+    };
+    for (const auto &[args, codigo, inicio] : casos) {
+        const Execucao r = Cli(args, QString(), QStringLiteral(LUMETA_CLI), dir.path());
+        EXPECT_EQ(r.codigo, codigo) << args.join(u' ').toStdString();
+        EXPECT_TRUE(r.saida.isEmpty());
+        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << r.erros.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("--help"))));
+    const Execucao r = Cli({QStringLiteral("ajuda")});
+    EXPECT_EQ(r.codigo, 0);
+    for (const char *cmd : {"novo SAIDA.lmt", "texto ARQUIVO.lmt", "comandos ARQUIVO.lmt"})
+        EXPECT_TRUE(r.saida.contains(cmd)) << cmd;
+}
+
+TEST(Cli, PosicoesVelhasDoArquivoDaoOTextoDoPainelDoEditor)
+{
+    teste::ConfigTemporaria config;
+    QTemporaryDir dir;
+    // Every stored position is stale, in the selected band and in the others.
+    LayoutDocumento doc;
+    Banda b1, b2;
+    b1.Topo = 900;
+    b1.Itens = {teste::NovoItem(TipoTexto, QStringLiteral("A"), 500, 40),
+                teste::NovoItem(TipoComando, QStringLiteral("WS-A"), 3, 70)};
+    b2.Topo = -5;
+    b2.Altura = 0;
+    b2.Itens = {teste::NovoItem(TipoTexto, QStringLiteral("B"), 77, 30),
+                teste::NovoItem(TipoTexto, QStringLiteral("C"), 0, 50)};
+    doc.Bandas = {b1, b2};
+    const QString caminho = dir.filePath(QStringLiteral("velho.lmt"));
+    ASSERT_TRUE(GravarArquivoLMT(caminho, doc).ok);
+    const QString lin = dir.filePath(QStringLiteral("cobol.lin"));
+    ASSERT_EQ(GravarArquivoLinguagem(lin, LinguagemPadrao()).resultado, ResultadoLin::Ok);
+
+    SessaoEdicao editor;
+    ASSERT_EQ(editor.AbrirLMT(caminho), SessaoEdicao::ResultadoAbrir::Aberto);
+    ASSERT_NE(editor.TextoResultado, GerarTextoComandos(doc));  // the stale positions would show
+
+    Execucao r = Cli({QStringLiteral("texto"), caminho});
+    ASSERT_EQ(r.codigo, 0) << r.erros.toStdString();
+    EXPECT_EQ(r.saida, Para1252(editor.TextoResultado));
+    r = Cli({QStringLiteral("comandos"), caminho});
+    EXPECT_EQ(r.saida, Para1252(ListaComandosUtilizados(editor.Documento)));
+    LinguagemDef ling;
+    ASSERT_EQ(LerArquivoLinguagem(lin, ling).resultado, ResultadoLin::Ok);
+    ling.CobolString = true;
+    r = Cli({QStringLiteral("copiar-como"), lin, caminho, QStringLiteral("--string")});
+    EXPECT_EQ(r.saida, Para1252(GerarCopiarComo(editor.Documento, ling)));
 }

@@ -165,6 +165,47 @@ void sincronizarPasta(const QString &pasta)
     }
 }
 
+// A new file beside the one to replace, named prefixo and a random suffix, in
+// the folder `dir` (AT_FDCWD when prefixo is a path); fd < 0 and erro set when
+// none could be made.
+struct Temporario {
+    QByteArray nome;
+    int fd = -1;
+    int erro = 0;
+};
+
+Temporario criarTemporario(int dir, const QByteArray &prefixo, int bandeiras, mode_t modo)
+{
+    Temporario t;
+    for (int tentativa = 0; tentativa < 64; ++tentativa) {
+        t.nome = prefixo + QByteArray::number(QRandomGenerator::global()->generate(), 36);
+        t.fd = ::openat(dir, t.nome.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY | bandeiras, modo);
+        if (t.fd >= 0 || errno != EEXIST)
+            break;
+    }
+    if (t.fd < 0)
+        t.erro = errno;
+    return t;
+}
+
+// Writes the temporary, syncs and closes it, then renames it over destino, so
+// the old file is replaced only once all of it is on disk; the temporary is
+// removed when a step fails. Returns 0 or the error number.
+int substituirPeloTemporario(int dir, const Temporario &t, const QByteArray &dados, const QByteArray &destino)
+{
+    int e = escreverTudo(t.fd, dados);
+    if (!e && ::fsync(t.fd) != 0)
+        e = errno;
+    const int f = fechar(t.fd);
+    if (!e)
+        e = f;
+    if (!e && ::renameat(dir, t.nome.constData(), dir, destino.constData()) != 0)
+        e = errno;
+    if (e)
+        ::unlinkat(dir, t.nome.constData(), 0);
+    return e;
+}
+
 }  // namespace
 
 ErroArquivo ErroDoSistema(int codigo, const QString &caminho)
@@ -239,41 +280,22 @@ ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados
 
     const QFileInfo fi(alvo);
     const QString pasta = fi.absolutePath();
-    QByteArray temporario;
-    int fd = -1;
-    for (int tentativa = 0; tentativa < 64 && fd < 0; ++tentativa) {
-        temporario = nomeLocal(pasta + QStringLiteral("/.") + fi.fileName() + QLatin1Char('.')
-                               + QString::number(QRandomGenerator::global()->generate(), 36));
-        // The system applies the umask, as it would to a file created in place.
-        fd = ::open(temporario.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY,
-                    existe ? (st.st_mode & 0777) : 0666);
-        if (fd < 0 && errno != EEXIST)
-            break;
-    }
-    if (fd < 0) {
-        const int e = errno;
-        if (existe && (e == EACCES || e == EPERM))
+    // The system applies the umask, as it would to a file created in place.
+    const Temporario t = criarTemporario(AT_FDCWD, nomeLocal(pasta + QStringLiteral("/.") + fi.fileName() + QLatin1Char('.')),
+                                         0, existe ? (st.st_mode & 0777) : 0666);
+    if (t.fd < 0) {
+        if (existe && (t.erro == EACCES || t.erro == EPERM))
             return gravarNoLugar(alvo, dados);
-        return ErroDoSistema(e, alvo);
+        return ErroDoSistema(t.erro, alvo);
     }
-    int e = escreverTudo(fd, dados);
-    if (!e && existe) {
+    if (existe) {
         // The replacement keeps the old file's mode and, when we may, its owner.
-        ::fchmod(fd, st.st_mode & 07777);
+        ::fchmod(t.fd, st.st_mode & 07777);
         if (::geteuid() == 0)
-            (void)::fchown(fd, st.st_uid, st.st_gid);
+            (void)::fchown(t.fd, st.st_uid, st.st_gid);
     }
-    if (!e && ::fsync(fd) != 0)
-        e = errno;
-    const int f = fechar(fd);
-    if (!e)
-        e = f;
-    if (!e && ::rename(temporario.constData(), nomeLocal(alvo).constData()) != 0)
-        e = errno;
-    if (e) {
-        ::unlink(temporario.constData());
+    if (const int e = substituirPeloTemporario(AT_FDCWD, t, dados, nomeLocal(alvo)))
         return ErroDoSistema(e, alvo);
-    }
     sincronizarPasta(pasta);
     return {};
 }
@@ -308,31 +330,12 @@ ErroArquivo GravarArquivoPrivado(const QString &caminho, const QByteArray &dados
         return naoPrivado();
     }
     const QByteArray nome = nomeLocal(fi.fileName());
-    QByteArray temporario;
-    int fd = -1;
-    for (int tentativa = 0; !e && tentativa < 64 && fd < 0; ++tentativa) {
-        temporario = '.' + nome + '.' + QByteArray::number(QRandomGenerator::global()->generate(), 36);
-        fd = ::openat(dir, temporario.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC | O_NOCTTY,
-                      0600);
-        if (fd < 0 && errno != EEXIST)
-            e = errno;
-    }
-    if (!e && fd < 0)
-        e = EEXIST;
     if (!e) {
-        e = escreverTudo(fd, dados);
-        if (!e && ::fsync(fd) != 0)
-            e = errno;
-        const int f = fechar(fd);
-        if (!e)
-            e = f;
+        const Temporario t = criarTemporario(dir, '.' + nome + '.', O_NOFOLLOW, 0600);
         // rename() replaces the name itself: a link there is dropped, its
         // target never opened.
-        if (!e && ::renameat(dir, temporario.constData(), dir, nome.constData()) != 0)
-            e = errno;
-        if (e)
-            ::unlinkat(dir, temporario.constData(), 0);
-        else
+        e = t.fd < 0 ? t.erro : substituirPeloTemporario(dir, t, dados, nome);
+        if (!e)
             ::fsync(dir);
     }
     ::close(dir);

@@ -16,6 +16,7 @@ PACOTES=(
   gnucobol
   clang libclang-rt-14-dev
   xvfb xauth
+  poppler-utils
 )
 [ "${LUMETA_GUI_TOOLS:-0}" = 1 ] && PACOTES+=(imagemagick)
 

@@ -106,6 +106,7 @@ struct Contexto {
     QPainter &p;
     RecursosCanvas &r;
     QRect area;
+    bool papel;
 };
 
 void PintarBordas(QPainter &p, const Item &it, const QRect &celula, const QColor &cor)
@@ -136,6 +137,10 @@ void PintarBordas(QPainter &p, const Item &it, const QRect &celula, const QColor
 
 void PintarFigura(Contexto &c, const Item &it, const QString &texto, const QRect &celula)
 {
+    // The placeholder tells the editor's user where a picture goes; paper
+    // has nothing to show for a picture without a file.
+    if (c.papel && QString(texto).remove(QLatin1Char('"')).trimmed().isEmpty())
+        return;
     const QImage &img = c.r.Figuras.Figura(texto);
     const QPoint pos = Posicionar(img.size(), celula, Alinhamento(it.Atributos));
     if (Colocado(pos, img.size()).intersects(c.area))
@@ -256,7 +261,8 @@ void PintarTexto(Contexto &c, const Item &it, const FonteItem &fonte, const Core
     if (cores.texto.isEmpty() || it.Largura < 5)
         return;
     const OpcoesTexto op = OpcoesDoItem(it);
-    const QString mostrado = TextoExibido(cores.texto);
+    // Paper gets its texts with the macros already given their printed values.
+    const QString mostrado = c.papel ? cores.texto : TextoExibido(cores.texto);
     const QColor cor = ResolverCor(it.CorTexto, cores.frente);
     const double x = celula.x() + 2, y = celula.y(), w = it.Largura - 4, h = celula.height();
     if (!celulaVisivel) {
@@ -289,14 +295,11 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
         : CoresMacro{it.Texto};
     const QRect celula = RetanguloLimitado(esquerda, topo, qint64(direita) - esquerda, qint64(fundo) - topo);
 
-    if (celulaVisivel) {
-        Contorno(c.p, esquerda, topo, direita - 1, fundo - 1, QColor(230, 230, 230));
-        if (!grafico) {
-            if (it.CorFundo != CorTransparente || cores.fundo != -1)
-                c.p.fillRect(celula, ResolverCor(it.CorFundo, cores.fundo));
-            if (it.Linhas != QLatin1String("0000000000"))
-                PintarBordas(c.p, it, celula, ResolverCor(it.CorLinha, cores.linha));
-        }
+    if (celulaVisivel && !grafico) {
+        if (it.CorFundo != CorTransparente || cores.fundo != -1)
+            c.p.fillRect(celula, ResolverCor(it.CorFundo, cores.fundo));
+        if (it.Linhas != QLatin1String("0000000000"))
+            PintarBordas(c.p, it, celula, ResolverCor(it.CorLinha, cores.linha));
     }
 
     if (figura)
@@ -405,6 +408,55 @@ ResultadoRepintura PrepararRepintura(LayoutDocumento &doc, int bandaSelecionada,
     return r;
 }
 
+namespace {
+
+// The editor's own marks, under everything a band prints: the page-size
+// marker, the page-break and comment marks at the left edge and the light
+// outline of every cell (a background covers it, as it covers the paper).
+void PintarMarcasEditor(QPainter &p, const LayoutDocumento &doc, const QRect &area, RecursosCanvas &r)
+{
+    PintarMarcador(p, doc.Paisagem, r);
+    const int n = doc.NumBandas();
+    std::vector<bool> quebras(size_t(n) + 1, false);
+    for (int16_t q : doc.Quebras)
+        if (q >= 1 && q <= n)
+            quebras[size_t(q)] = true;
+    const QColor contorno(230, 230, 230);
+    for (int i = 1; i <= n; ++i) {
+        const Banda &banda = doc.banda(i);
+        const int topo = banda.Topo;
+        const int fundo = Limitar32(qint64(topo) + std::abs(qint64(banda.Altura)));
+        if (topo > area.bottom() || fundo <= area.top())
+            continue;
+        PintarMarcadoresBanda(p, banda, quebras[size_t(i)], topo, fundo);
+        for (const Item &it : banda.Itens) {
+            const int esquerda = Limitar32(int64_t(it.Esquerda) + DeslocamentoItens);
+            const int direita = Limitar32(int64_t(esquerda) + it.Largura);
+            if (esquerda <= area.right() && direita > area.left())
+                Contorno(p, esquerda, topo, direita - 1, fundo - 1, contorno);
+        }
+    }
+}
+
+}  // namespace
+
+void PintarBanda(QPainter &pintor, const Banda &banda, int topo, int fundo, const QRect &area,
+                 RecursosCanvas &recursos, const FonteItem *&fonte, bool papel)
+{
+    Contexto c{pintor, recursos, area, papel};
+    const bool visivel = topo <= area.bottom() && fundo > area.top();
+    for (const Item &it : banda.Itens) {
+        if (FonteValida(it.Fonte))
+            fonte = &it.Fonte;
+        PintarItem(c, it, *fonte, topo, fundo, visivel);
+    }
+}
+
+const FonteItem &FontePadraoCanvas()
+{
+    return FonteCanvas();
+}
+
 void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &area, RecursosCanvas &recursos,
                   const OpcoesPintura &opcoes)
 {
@@ -412,29 +464,12 @@ void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &are
     pintor.save();
     pintor.setClipRect(area, Qt::IntersectClip);
     pintor.fillRect(area, Qt::white);
-    PintarMarcador(pintor, doc.Paisagem, recursos);
-
-    const int n = doc.NumBandas();
-    std::vector<bool> quebras(size_t(n) + 1, false);
-    for (int16_t q : doc.Quebras)
-        if (q >= 1 && q <= n)
-            quebras[size_t(q)] = true;
-
-    Contexto c{pintor, recursos, area};
+    if (opcoes.marcasEditor)
+        PintarMarcasEditor(pintor, doc, area, recursos);
     const FonteItem *fonte = &FonteCanvas();
-    for (int i = 1; i <= n; ++i) {
-        const Banda &banda = doc.banda(i);
-        const int topo = banda.Topo;
-        const int fundo = Limitar32(qint64(topo) + std::abs(qint64(banda.Altura)));
-        const bool visivel = topo <= area.bottom() && fundo > area.top();
-        if (visivel)
-            PintarMarcadoresBanda(pintor, banda, quebras[size_t(i)], topo, fundo);
-        for (const Item &it : banda.Itens) {
-            if (FonteValida(it.Fonte))
-                fonte = &it.Fonte;
-            PintarItem(c, it, *fonte, topo, fundo, visivel);
-        }
-    }
+    for (const Banda &banda : doc.Bandas)
+        PintarBanda(pintor, banda, banda.Topo, Limitar32(qint64(banda.Topo) + std::abs(qint64(banda.Altura))), area,
+                    recursos, fonte, false);
     if (opcoes.marcarSelecao)
         PintarSelecao(pintor, doc, opcoes);
     pintor.restore();

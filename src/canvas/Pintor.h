@@ -81,7 +81,22 @@ struct OpcoesPintura {
     bool marcarSelecao = false;
     int bandaSelecionada = 0;
     int itemSelecionado = 0;
+    // The page-size marker, band marks and cell outlines; off, the canvas
+    // shows the bands exactly as paper does.
+    bool marcasEditor = true;
 };
+
+// One band as it prints, between `topo` and `fundo` (canvas coordinates,
+// items at Esquerda + 8): backgrounds, lines, texts, pictures, symbols and
+// bars, whatever of them lands in `area`. `fonte` is the font in use: an
+// item with a valid font of its own changes it for the items after it. The
+// canvas and the print engine both draw bands through this; on `papel` a
+// picture without a file prints nothing and texts are taken as they stand,
+// their macros already given their printed values.
+void PintarBanda(QPainter &pintor, const Banda &banda, int topo, int fundo, const QRect &area,
+                 RecursosCanvas &recursos, const FonteItem *&fonte, bool papel);
+// The font the canvas starts from (Arial 8).
+const FonteItem &FontePadraoCanvas();
 
 // Paints the part `area` of the canvas (canvas coordinates; the painter's
 // transform maps them to its device): the area is cleared to white and

@@ -1,5 +1,7 @@
 #include "document/ArquivoDisco.h"
 
+#include <QIODevice>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -297,6 +299,116 @@ ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados
     if (const int e = substituirPeloTemporario(AT_FDCWD, t, dados, nomeLocal(alvo)))
         return ErroDoSistema(e, alvo);
     sincronizarPasta(pasta);
+    return {};
+}
+
+namespace {
+
+// Writes straight to a file descriptor and keeps the first error number, so
+// the message can carry the system's reason.
+class DispositivoArquivo : public QIODevice {
+public:
+    int fd = -1;
+    int erro = 0;
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *dados, qint64 n) override
+    {
+        if (erro)
+            return -1;
+        if (int e = escreverTudo(fd, QByteArray::fromRawData(dados, qsizetype(n)))) {
+            erro = e;
+            return -1;
+        }
+        return n;
+    }
+};
+
+}  // namespace
+
+struct GravacaoArquivo::Dados {
+    DispositivoArquivo dispositivo;
+    Temporario temporario;
+    QString alvo;
+    bool direto = false;  // a device or FIFO, written into
+};
+
+GravacaoArquivo::GravacaoArquivo() : d(new Dados) {}
+
+GravacaoArquivo::~GravacaoArquivo()
+{
+    if (d->dispositivo.fd >= 0) {
+        ::close(d->dispositivo.fd);
+        if (!d->direto)
+            ::unlink(d->temporario.nome.constData());
+    }
+    delete d;
+}
+
+ErroArquivo GravacaoArquivo::Iniciar(const QString &caminho)
+{
+    if (caminho.isEmpty())
+        return ErroDoSistema(EINVAL);
+    QString alvo = caminho;
+    const QFileInfo info(caminho);
+    if (info.isSymLink())
+        alvo = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+    struct stat st;
+    const bool existe = ::stat(nomeLocal(alvo).constData(), &st) == 0;
+    if (!existe && errno != ENOENT)
+        return ErroDoSistema(errno, alvo);
+    if (existe && (S_ISCHR(st.st_mode) || S_ISFIFO(st.st_mode))) {
+        d->dispositivo.fd = ::open(nomeLocal(alvo).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+        if (d->dispositivo.fd < 0)
+            return ErroDoSistema(errno, alvo);
+        d->direto = true;
+    } else {
+        if (existe && !S_ISREG(st.st_mode))
+            return acessoAoCaminho();
+        if (existe && ::access(nomeLocal(alvo).constData(), W_OK) != 0)
+            return ErroDoSistema(errno, alvo);
+        const QFileInfo fi(alvo);
+        d->temporario = criarTemporario(
+            AT_FDCWD, nomeLocal(fi.absolutePath() + QStringLiteral("/.") + fi.fileName() + QLatin1Char('.')), 0,
+            existe ? (st.st_mode & 0777) : 0666);
+        if (d->temporario.fd < 0)
+            return ErroDoSistema(d->temporario.erro, alvo);
+        if (existe)
+            ::fchmod(d->temporario.fd, st.st_mode & 07777);
+        d->dispositivo.fd = d->temporario.fd;
+    }
+    d->alvo = alvo;
+    d->dispositivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    return {};
+}
+
+QIODevice &GravacaoArquivo::Dispositivo()
+{
+    return d->dispositivo;
+}
+
+ErroArquivo GravacaoArquivo::Concluir()
+{
+    if (d->dispositivo.fd < 0)
+        return ErroDoSistema(EBADF);
+    int e = d->dispositivo.erro;
+    if (!e && !d->direto && ::fsync(d->dispositivo.fd) != 0)
+        e = errno;
+    const int f = fechar(d->dispositivo.fd);
+    d->dispositivo.fd = -1;
+    d->dispositivo.close();
+    if (!e)
+        e = f;
+    if (d->direto)
+        return e ? ErroDoSistema(e, d->alvo) : ErroArquivo{};
+    if (!e && ::rename(d->temporario.nome.constData(), nomeLocal(d->alvo).constData()) != 0)
+        e = errno;
+    if (e) {
+        ::unlink(d->temporario.nome.constData());
+        return ErroDoSistema(e, d->alvo);
+    }
+    sincronizarPasta(QFileInfo(d->alvo).absolutePath());
     return {};
 }
 

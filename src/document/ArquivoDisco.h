@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QIODevice;
+
 namespace lumeta {
 
 struct ErroArquivo {
@@ -33,6 +35,28 @@ ErroArquivo ErroDoSistema(int codigo, const QString &caminho = QString());
 // a FIFO with a reader is written into, never replaced; a folder, a block
 // device, a socket or a FIFO nobody reads is refused.
 ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados);
+
+// A file too large to hold whole (a report of thousands of pages), written
+// as a stream with the same promise as GravarArquivoAtomico: the data goes to
+// a new file beside the name, and only Concluir, once everything is written
+// and synced, renames it over the old one. Dropped without Concluir, or on
+// any failure, the new file is removed and the old one stays as it was.
+class GravacaoArquivo {
+public:
+    GravacaoArquivo();
+    ~GravacaoArquivo();
+    GravacaoArquivo(const GravacaoArquivo &) = delete;
+    GravacaoArquivo &operator=(const GravacaoArquivo &) = delete;
+
+    ErroArquivo Iniciar(const QString &caminho);
+    // Where the data goes; a failed write is kept and told by Concluir.
+    QIODevice &Dispositivo();
+    ErroArquivo Concluir();
+
+private:
+    struct Dados;
+    Dados *d;
+};
 
 // Whether a folder is one only this user can enter: a real folder (not a
 // link to one), owned by the user, mode 0700.

@@ -48,7 +48,10 @@ QString MacroVariavel(const QString &resposta)
     return QStringLiteral("(%_") + Numero(valor, 2) + QStringLiteral("_%)");
 }
 
-QString ExpandirMacros(const QString &texto, int pagina, const QDateTime &agora, const QLocale &local)
+namespace {
+
+QString Expandir(const QString &texto, int pagina, const QString &paginas, const QString &paginasFormatado,
+                 const QDateTime &agora, const QLocale &local)
 {
     // Most texts hold no macro at all; skip the twelve searches for them.
     if (!texto.contains(QLatin1String("(%_")))
@@ -69,13 +72,50 @@ QString ExpandirMacros(const QString &texto, int pagina, const QDateTime &agora,
         {"(%_min_%)", Numero(hora.minute(), 2)},
         {"(%_seg_%)", Numero(hora.second(), 2)},
         {"(%_pag_%)", QString::number(pagina)},
-        {"(%_pgs_%)", QStringLiteral("10")},
+        {"(%_pgs_%)", paginas},
         {"(%_zpg_%)", Numero(pagina, 5)},
-        {"(%_zps_%)", QStringLiteral("00010")},
+        {"(%_zps_%)", paginasFormatado},
     };
     for (const auto &[macro, valor] : trocas)
         r.replace(QLatin1String(macro), valor, Qt::CaseInsensitive);
     return r;
+}
+
+}  // namespace
+
+QString ExpandirMacros(const QString &texto, int pagina, const QDateTime &agora, const QLocale &local)
+{
+    return Expandir(texto, pagina, QStringLiteral("10"), QStringLiteral("00010"), agora, local);
+}
+
+QString ExpandirMacros(const QString &texto, const ValoresMacros &v)
+{
+    if (!texto.contains(QLatin1String("(%_")))
+        return texto;
+    QString r;
+    if (v.variaveis) {
+        // Variables first, in one left-to-right pass, so a value that holds a
+        // macro's text is printed as the host wrote it.
+        r.reserve(texto.size());
+        const QString paginas = QString::number(v.paginas), formatado = Numero(v.paginas, 5);
+        qsizetype inicio = 0, busca = 0;
+        for (;;) {
+            const qsizetype p = texto.indexOf(QLatin1String("(%_"), busca);
+            if (p < 0)
+                break;
+            busca = p + 3;
+            const auto digito = [&](qsizetype k) { return texto[k] >= QLatin1Char('0') && texto[k] <= QLatin1Char('9'); };
+            if (p + 8 > texto.size() || !digito(p + 3) || !digito(p + 4)
+                || QStringView(texto).mid(p + 5, 3) != QLatin1String("_%)"))
+                continue;
+            r += Expandir(texto.mid(inicio, p - inicio), v.pagina, paginas, formatado, v.agora, v.local);
+            r += v.variaveis->value((texto[p + 3].unicode() - '0') * 10 + (texto[p + 4].unicode() - '0'));
+            inicio = busca = p + 8;
+        }
+        r += Expandir(texto.mid(inicio), v.pagina, paginas, formatado, v.agora, v.local);
+        return r;
+    }
+    return Expandir(texto, v.pagina, QString::number(v.paginas), Numero(v.paginas, 5), v.agora, v.local);
 }
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QLocale>
+#include <QMap>
 #include <QString>
 #include <array>
 
@@ -36,6 +37,18 @@ inline QString ExpandirMacros(const QString &texto, int pagina = 1)
         return texto;
     return ExpandirMacros(texto, pagina, QDateTime::currentDateTime(), QLocale::system());
 }
+
+// What the macros of a printed page stand for: the page and the page count,
+// the moment printing started and the header and footer variables the host
+// program assigned (an unassigned one prints nothing).
+struct ValoresMacros {
+    int pagina = 1;
+    int paginas = 1;
+    QDateTime agora;
+    QLocale local;
+    const QMap<int, QString> *variaveis = nullptr;
+};
+QString ExpandirMacros(const QString &texto, const ValoresMacros &valores);
 
 struct CoresMacro {
     QString texto;        // the text without its colour macros

@@ -253,8 +253,10 @@ int DesenharTexto(QPainter *pintor, FontesCanvas &fontes, const FonteItem &fonte
             default:
                 break;
             }
-            const int px = int(std::nearbyint(x + sx));
-            const int py = int(std::nearbyint(y + sy));
+            // Halves round up, not to even: a band drawn one pixel lower
+            // (on a printed page, say) must look the same, only moved.
+            const int px = int(std::floor(x + sx + 0.5));
+            const int py = int(std::floor(y + sy + 0.5));
             QTransform giro;
             if (angulo) {
                 giro.translate(px, py);

@@ -261,8 +261,7 @@ void PintarTexto(Contexto &c, const Item &it, const FonteItem &fonte, const Core
     if (cores.texto.isEmpty() || it.Largura < 5)
         return;
     const OpcoesTexto op = OpcoesDoItem(it);
-    // Paper gets its texts with the macros already given their printed values.
-    const QString mostrado = c.papel ? cores.texto : TextoExibido(cores.texto);
+    const QString mostrado = TextoExibido(cores.texto);
     const QColor cor = ResolverCor(it.CorTexto, cores.frente);
     const double x = celula.x() + 2, y = celula.y(), w = it.Largura - 4, h = celula.height();
     if (!celulaVisivel) {
@@ -469,7 +468,7 @@ void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &are
     const FonteItem *fonte = &FonteCanvas();
     for (const Banda &banda : doc.Bandas)
         PintarBanda(pintor, banda, banda.Topo, Limitar32(qint64(banda.Topo) + std::abs(qint64(banda.Altura))), area,
-                    recursos, fonte, false);
+                    recursos, fonte, !opcoes.marcasEditor);
     if (opcoes.marcarSelecao)
         PintarSelecao(pintor, doc, opcoes);
     pintor.restore();

@@ -81,8 +81,8 @@ struct OpcoesPintura {
     bool marcarSelecao = false;
     int bandaSelecionada = 0;
     int itemSelecionado = 0;
-    // The page-size marker, band marks and cell outlines; off, the canvas
-    // shows the bands exactly as paper does.
+    // The page-size marker, band marks, cell outlines and the placeholder of
+    // a picture without a file; off, the canvas shows the bands as paper does.
     bool marcasEditor = true;
 };
 
@@ -91,8 +91,8 @@ struct OpcoesPintura {
 // bars, whatever of them lands in `area`. `fonte` is the font in use: an
 // item with a valid font of its own changes it for the items after it. The
 // canvas and the print engine both draw bands through this; on `papel` a
-// picture without a file prints nothing and texts are taken as they stand,
-// their macros already given their printed values.
+// picture without a file prints nothing. Macros left in a text get the
+// canvas's sample values (the print engine gives them their values first).
 void PintarBanda(QPainter &pintor, const Banda &banda, int topo, int fundo, const QRect &area,
                  RecursosCanvas &recursos, const FonteItem *&fonte, bool papel);
 // The font the canvas starts from (Arial 8).

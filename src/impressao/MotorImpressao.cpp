@@ -351,14 +351,22 @@ bool MotorImpressao::PintarPagina(QPainter &pintor, int pagina)
     pintor.translate(origem.x() - EsquerdaArea + margem, origem.y() - TopoArea);
     const QRect area(EsquerdaArea - margem, TopoArea, largura, altura);
     Pagina &p = m_paginas[size_t(pagina - 1)];
+    // An item whose font cannot be used keeps the one before it, across
+    // bands, as on the canvas.
+    FonteItem corrente = FontePadraoCanvas();
     const bool ok = disporPagina(pagina, p, false, nullptr, nullptr, [&](BandaColocada &c) {
         QRect recorte = area;
         recorte.setBottom(std::min(area.bottom(), c.limite - 1));
-        if (recorte.isEmpty() || c.topo > recorte.bottom())
-            return;
-        pintor.setClipRect(recorte);
-        const FonteItem *fonte = &FontePadraoCanvas();
-        PintarBanda(pintor, c.banda, c.topo, c.fundo, recorte, recursos(), fonte, true);
+        const FonteItem *fonte = &corrente;
+        if (!recorte.isEmpty() && c.topo <= recorte.bottom()) {
+            pintor.setClipRect(recorte);
+            PintarBanda(pintor, c.banda, c.topo, c.fundo, recorte, recursos(), fonte, true);
+        } else {
+            for (const Item &it : c.banda.Itens)
+                if (FonteValida(it.Fonte))
+                    fonte = &it.Fonte;
+        }
+        corrente = *fonte;
     });
     pintor.restore();
     return ok;

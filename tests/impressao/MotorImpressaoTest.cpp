@@ -138,6 +138,20 @@ TEST(Paginacao, HeaderFooterAndBandPlacement)
     MotorImpressao m;
     ASSERT_TRUE(m.AbrirTexto(Bloco("e", 5000), QStringLiteral("x")));
     EXPECT_EQ(m.BandasDaPagina(1).at(0).limite, 1043);
+
+    // The left margin moves the items on the sheet, 10 mm = 38 pixels.
+    const QString fundo = QStringLiteral("L 00000000000096000000000001\r\n");
+    QRect tinta[2];
+    for (int i = 0; i < 2; ++i) {
+        MotorImpressao comMargem;
+        ASSERT_TRUE(comMargem.AbrirTexto((i ? "ME 010\r\n" : "") + fundo + Bloco("x", 20), "x"));
+        const QImage pagina = ImagemPagina(comMargem, 1, 96);
+        for (int x = 0; x < pagina.width() && tinta[i].isNull(); ++x)
+            if (pagina.pixel(x, 60) == qRgb(0, 0, 0))
+                tinta[i] = QRect(x, 60, 1, 1);
+    }
+    EXPECT_EQ(tinta[0].x(), 13);
+    EXPECT_EQ(tinta[1].x(), 13 + 38);
 }
 
 TEST(Paginacao, AutomaticHeightsFollowThePrintedText)

@@ -200,8 +200,8 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
         m_erro = leitor.Erro();
         return false;
     }
-    if (contar)
-        pagina.variaveisCabecalho = leitor.Variaveis;
+    // The header shows the values as the first band of the page begins.
+    const VariaveisRelatorio variaveisCabecalho = leitor.Variaveis;
 
     qint64 topoAnterior = topoArea, fundoAnterior = topoArea;
     bool primeira = true;
@@ -222,8 +222,8 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
 
     if (fixas)
         for (const BandaLida &h : m_cabecalho) {
-            const auto [topo, fundo] = colocar(h.banda, alturaDe(h.banda, numero, pagina.variaveisCabecalho));
-            entregar(h.banda, topo, fundo, fimArea, pagina.variaveisCabecalho);
+            const auto [topo, fundo] = colocar(h.banda, alturaDe(h.banda, numero, variaveisCabecalho));
+            entregar(h.banda, topo, fundo, fimArea, variaveisCabecalho);
         }
 
     // The footer stands against the end of the area; its heights are taken
@@ -235,7 +235,7 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
         qint64 t = 0, f = 0, total = 0;
         for (size_t i = 0; i < m_rodape.size(); ++i) {
             const Banda &banda = m_rodape[i].banda;
-            const int altura = alturaDe(banda, numero, pagina.variaveisCabecalho);
+            const int altura = alturaDe(banda, numero, variaveisCabecalho);
             t = i == 0 ? 0 : std::max(f + banda.Deslocamento, t);
             f = t + altura;
             total = std::max(total, f);
@@ -266,7 +266,13 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
         variaveisDepois = leitor.Variaveis;
         entregar(b.banda, t, f, fimCorpoPagina, leitor.Variaveis);
         if (!contar && colocadas >= pagina.bandas) {
-            temBanda = false;
+            // Read on to where the next page starts, as counting did, for
+            // the values the footer shows.
+            acabou = numero >= NumPaginas();
+            if (!acabou && !leitor.ProximaBanda(b) && !leitor.Erro().isEmpty()) {
+                m_erro = leitor.Erro();
+                return false;
+            }
             break;
         }
         temBanda = leitor.ProximaBanda(b);
@@ -276,11 +282,11 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
         }
         acabou = !temBanda;
     }
+    // The last page's footer shows the values as the report ends, so the
+    // assignments written with the footer count.
+    const VariaveisRelatorio variaveisRodape = acabou ? m_variaveisFinais : leitor.Variaveis;
     if (contar) {
         pagina.bandas = colocadas;
-        // The last page's footer shows the values as the report ends, so the
-        // assignments written with the footer count.
-        pagina.variaveisRodape = acabou ? m_variaveisFinais : leitor.Variaveis;
         if (proxima)
             *proxima = depois;
         if (fimCorpo)
@@ -289,7 +295,7 @@ bool MotorImpressao::disporPagina(int numero, Pagina &pagina, bool contar, Posic
     }
     for (size_t i = 0; i < rodape.size(); ++i)
         entregar(m_rodape[i].banda, fimCorpoPagina + rodape[i].first, fimCorpoPagina + rodape[i].second, fimArea,
-                 pagina.variaveisRodape);
+                 variaveisRodape);
     return true;
 }
 

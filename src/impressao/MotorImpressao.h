@@ -20,6 +20,7 @@
 #include <QSizeF>
 #include <functional>
 #include <memory>
+#include <deque>
 #include <vector>
 
 class QPainter;
@@ -71,9 +72,9 @@ public:
 private:
     struct Pagina {
         PosicaoLeitura inicio;
-        VariaveisRelatorio variaveisInicio;     // as the reading stands at `inicio`
-        VariaveisRelatorio variaveisCabecalho;  // when the first band of the page begins
-        VariaveisRelatorio variaveisRodape;     // when the page ends
+        // As the reading stands at `inicio`; what the header and footer show
+        // is read again from there.
+        VariaveisRelatorio variaveisInicio;
         int bandas = 0;
     };
     using AoColocar = std::function<void(BandaColocada &)>;
@@ -98,7 +99,7 @@ private:
     qint64 m_fimCorpo = -1;
     VariaveisRelatorio m_variaveisFinais;
     VariaveisRelatorio m_proximasVariaveis;  // as the reading stands where the next page starts
-    std::vector<Pagina> m_paginas;
+    std::deque<Pagina> m_paginas;  // grows without copying what it holds
     QDateTime m_momento;
     std::unique_ptr<RecursosCanvas> m_recursos;
     int m_usosRecursos = 0;

@@ -1,9 +1,11 @@
 #include "app/JanelaTeste.h"
+#include "app/gui/JanelaPrevia.h"
 #include "document/Texto1252.h"
 #include "output/Visualizacao.h"
 #include "support/TestSupport.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -39,13 +41,17 @@ TEST(Visualizar, TheViewerGetsTheCommandFileOrTheUserIsToldWhy)
     ASSERT_TRUE(esperado.contains("Pre\xE7o unit\xE1rio\r\n"));
     QAction *visualizar = j.acao("mnuEditarVisualizar");
 
-    // No viewer on the path: a message, and the file stays as written.
+    // No viewer on the path: the editor's own preview shows the pages.
     visualizar->trigger();
-    ASSERT_EQ(j.ui.mensagens.size(), 1);
-    EXPECT_EQ(j.ui.mensagens[0].texto, QStringLiteral("O Lumeta não foi encontrado, ou não está instalado!"));
-    EXPECT_EQ(j.ui.mensagens[0].titulo, QStringLiteral("Visualizar"));
-    EXPECT_EQ(j.ui.mensagens[0].icone, Icone::Exclamacao);
-    EXPECT_EQ(teste::LerArquivo(j.s.ArquivoVisualizacao), esperado);
+    EXPECT_TRUE(j.ui.mensagens.isEmpty());
+    auto *previa = j.janela.findChild<JanelaPrevia *>();
+    ASSERT_NE(previa, nullptr);
+    EXPECT_EQ(previa->findChild<QLabel *>("lblPagina")->text(), QStringLiteral("Página 1 de 1"));
+    const auto bandas = previa->Motor().BandasDaPagina(1);
+    ASSERT_FALSE(bandas.empty());
+    EXPECT_EQ(bandas[0].banda.Itens[0].Texto, QStringLiteral("Preço unitário"));
+    previa->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     // A stand-in viewer writes one argument a line and a copy of its file,
     // then renames the record so the test sees it whole.
@@ -64,14 +70,14 @@ TEST(Visualizar, TheViewerGetsTheCommandFileOrTheUserIsToldWhy)
     QFile::rename(viewer, bin.filePath(QStringLiteral("envoltorio")));
     qputenv(VariavelVisualizador, bin.filePath(QStringLiteral("envoltorio")).toLocal8Bit());
     visualizar->trigger();
-    ASSERT_EQ(j.ui.mensagens.size(), 2);
-    EXPECT_TRUE(j.ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu o erro número 70 ao tentar visualizar!\r\r")))
-        << j.ui.mensagens[1].texto.toStdString();
+    ASSERT_EQ(j.ui.mensagens.size(), 1);
+    EXPECT_TRUE(j.ui.mensagens[0].texto.startsWith(QStringLiteral("Ocorreu o erro número 70 ao tentar visualizar!\r\r")))
+        << j.ui.mensagens[0].texto.toStdString();
 
     j.s.ArquivoVisualizacao = tmp.filePath(QStringLiteral("sem/pasta/Lumeta.tmp"));
     visualizar->trigger();
-    ASSERT_EQ(j.ui.mensagens.size(), 3);
-    EXPECT_TRUE(j.ui.mensagens[2].texto.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")
+    ASSERT_EQ(j.ui.mensagens.size(), 2);
+    EXPECT_TRUE(j.ui.mensagens[1].texto.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '")
                                                     + j.s.ArquivoVisualizacao))
-        << j.ui.mensagens[2].texto.toStdString();
+        << j.ui.mensagens[1].texto.toStdString();
 }

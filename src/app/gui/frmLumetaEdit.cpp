@@ -2,6 +2,7 @@
 
 #include "app/gui/Autor.h"
 #include "app/gui/JanelaAjuda.h"
+#include "app/gui/JanelaPrevia.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
@@ -26,6 +27,7 @@
 #include "output/Linguagem.h"
 #include "output/Macros.h"
 #include "output/TextoComandos.h"
+#include "output/Visualizacao.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -196,7 +198,13 @@ void frmLumetaEdit::ligarDialogos()
     ligar("mnuConfigQualidadeJPG", mnuConfigQualidadeJPG);
     ligar("mnuConfigNomeImpressora", mnuConfigNomeImpressora);
     ligar("mnuConfigMargens", mnuConfigMargens);
-    ligar("mnuEditarVisualizar", [](SessaoEdicao &s, QWidget *) { return mnuEditarVisualizar(s); });
+    // Without an external viewer the editor's own print engine shows the pages.
+    ligar("mnuEditarVisualizar", [](SessaoEdicao &s, QWidget *janela) {
+        if (!LocalizarVisualizador().isEmpty())
+            return mnuEditarVisualizar(s);
+        AbrirPreviaTexto(janela, s.Ui, s.TextoResultado, QStringLiteral("Lumeta.tmp"));
+        return true;
+    });
 }
 
 void frmLumetaEdit::criarMenuArquivo()
@@ -215,6 +223,9 @@ void frmLumetaEdit::criarMenuArquivo()
     connect(salvar, &QAction::triggered, this, [this] { m_sessao.ComandoSalvar(); });
     QAction *como = item(mnuArquivo, QStringLiteral("mnuArquivoSalvarComo"), QStringLiteral("Salvar &como..."));
     connect(como, &QAction::triggered, this, [this] { m_sessao.ComandoSalvarComo(); });
+    QAction *comandos =
+        item(mnuArquivo, QStringLiteral("mnuArquivoImprimirComandos"), QStringLiteral("Imprimir arquivo de c&omandos..."));
+    connect(comandos, &QAction::triggered, this, [this] { AbrirArquivoComandos(this, m_sessao.Ui); });
     mnuArquivo->addSeparator()->setObjectName(QStringLiteral("mnuSeparaRecente1"));
     for (int k = 1; k <= 4; ++k) {
         QAction *r = item(mnuArquivo, QStringLiteral("mnuArquivoRecente(%1)").arg(k), QString());

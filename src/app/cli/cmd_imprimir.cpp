@@ -87,7 +87,7 @@ const ComandoCli imprimir(45, "imprimir", "imprimir ENTRADA SAIDA [--dpi N] | im
 #ifdef LUMETA_IMPRESSORA
             ok = EnviarParaImpressora(motor, impressora, erro, Progresso());
 #else
-            erro = QStringLiteral("Esta compilação do LumetaEdit não imprime em impressoras.");
+            erro = QStringLiteral("Esta compilação do LumetaEdit não imprime na impressora '%1'.").arg(impressora);
 #endif
         } else {
             ok = pdf ? GravarPDF(motor, saida, erro, Progresso()) : GravarPNGs(motor, saida, dpi, erro, Progresso());

@@ -26,7 +26,7 @@ public:
     void Finalize() override
     {
         ConsoleReporter::Finalize();
-        std::printf("\nRatios to memcpy of the same bytes (time / memcpy time):\n");
+        std::printf("\nRatios to each benchmark's baseline, measured in this run (time / baseline time):\n");
         for (const auto &[nome, base] : bases_) {
             const auto a = tempos_.find(nome), b = tempos_.find(base);
             if (a == tempos_.end() || b == tempos_.end() || b->second <= 0)

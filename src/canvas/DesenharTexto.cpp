@@ -192,24 +192,15 @@ int DesenharTexto(QPainter *pintor, FontesCanvas &fontes, const FonteItem &fonte
     if (!desenhar && !extensao)
         return resultado;
 
-    // The clip rectangle keeps its unrotated sides; right and bottom are out.
-    const int esquerda = int(std::nearbyint(x));
-    const int topo = int(std::nearbyint(y));
-    const int direita = int(std::nearbyint(x + largura - 1));
-    const int fundo = int(std::nearbyint(y + altura - 1));
-    const QRect recorte(esquerda, topo, direita - esquerda, fundo - topo);
-
-    QTransform transformacaoBase;
-    if (desenhar) {
-        pintor->save();
-        if (op.recortar)
-            pintor->setClipRect(recorte, Qt::IntersectClip);
-        pintor->setPen(cor);
-        transformacaoBase = pintor->transform();
-    }
+    // Where every word starts, and the box the words cover.
+    struct Colocada {
+        const Palavra *palavra;
+        int x, y;
+        QTransform giro;
+    };
+    static thread_local std::vector<Colocada> colocadas;
+    colocadas.clear();
     QRect cobertura;
-    const VarianteFonte *fonteNoPintor = nullptr;
-
     for (int li = 0; li < numLinhas; ++li) {
         const Linha &linha = linhas[size_t(li)];
         const int n = linha.fim - linha.primeira;
@@ -262,28 +253,51 @@ int DesenharTexto(QPainter *pintor, FontesCanvas &fontes, const FonteItem &fonte
                 giro.translate(px, py);
                 giro.rotate(-angulo);
             }
-            if (extensao) {
-                const QRect caixa(0, 0, p.largura, alturaLinha);
-                cobertura |= angulo ? giro.mapRect(caixa) : caixa.translated(px, py);
-            }
-            if (!desenhar)
-                continue;
-            if (fonteNoPintor != p.fonte) {
-                pintor->setFont(p.fonte->fonte);
-                fonteNoPintor = p.fonte;
-            }
-            if (angulo) {
-                pintor->setTransform(giro * transformacaoBase);
-                pintor->drawText(QPoint(0, p.fonte->ascendente), p.texto);
-            } else {
-                pintor->drawText(QPoint(px, py + p.fonte->ascendente), p.texto);
-            }
+            const QRect caixa(0, 0, p.largura, alturaLinha);
+            cobertura |= angulo ? giro.mapRect(caixa) : caixa.translated(px, py);
+            colocadas.push_back({&p, px, py, giro});
         }
     }
-    if (desenhar)
-        pintor->restore();
     if (extensao)
         *extensao = cobertura;
+    if (!desenhar)
+        return resultado;
+
+    // The clip rectangle keeps its unrotated sides; right and bottom are out.
+    const int esquerda = int(std::nearbyint(x));
+    const int topo = int(std::nearbyint(y));
+    const int direita = int(std::nearbyint(x + largura - 1));
+    const int fundo = int(std::nearbyint(y + altura - 1));
+    const QRect recorte(esquerda, topo, direita - esquerda, fundo - topo);
+    // Words well inside the cell need no clip; on paper every clip is a
+    // path in the page's content, so most cells of a report are spared one.
+    // The margin covers glyphs that reach past their advance (italics).
+    const bool recortar = op.recortar && (angulo || !recorte.adjusted(2, 0, -2, 0).contains(cobertura));
+
+    // Saving the painter's state costs a state change of its own on paper:
+    // only a clip or a turn needs one. Pen and font are anybody's to set.
+    const bool guardar = recortar || angulo;
+    if (guardar)
+        pintor->save();
+    if (recortar)
+        pintor->setClipRect(recorte, Qt::IntersectClip);
+    pintor->setPen(cor);
+    const QTransform transformacaoBase = pintor->transform();
+    const VarianteFonte *fonteNoPintor = nullptr;
+    for (const Colocada &c : colocadas) {
+        if (fonteNoPintor != c.palavra->fonte) {
+            pintor->setFont(c.palavra->fonte->fonte);
+            fonteNoPintor = c.palavra->fonte;
+        }
+        if (angulo) {
+            pintor->setTransform(c.giro * transformacaoBase);
+            pintor->drawText(QPoint(0, c.palavra->fonte->ascendente), c.palavra->texto);
+        } else {
+            pintor->drawText(QPoint(c.x, c.y + c.palavra->fonte->ascendente), c.palavra->texto);
+        }
+    }
+    if (guardar)
+        pintor->restore();
     return resultado;
 }
 

@@ -360,13 +360,22 @@ bool MotorImpressao::PintarPagina(QPainter &pintor, int pagina)
     // An item whose font cannot be used keeps the one before it, across
     // bands, as on the canvas.
     FonteItem corrente = FontePadraoCanvas();
+    // One clip for the page; a band cut at the end of the body gets its own.
+    // Every clip is a path in a PDF page, so bands that fit go without.
+    pintor.setClipRect(area, Qt::IntersectClip);
     const bool ok = disporPagina(pagina, p, false, nullptr, nullptr, [&](BandaColocada &c) {
         QRect recorte = area;
         recorte.setBottom(std::min(area.bottom(), c.limite - 1));
         const FonteItem *fonte = &corrente;
         if (!recorte.isEmpty() && c.topo <= recorte.bottom()) {
-            pintor.setClipRect(recorte);
+            const bool cortada = c.fundo > c.limite;
+            if (cortada) {
+                pintor.save();
+                pintor.setClipRect(recorte, Qt::IntersectClip);
+            }
             PintarBanda(pintor, c.banda, c.topo, c.fundo, recorte, recursos(), fonte, true);
+            if (cortada)
+                pintor.restore();
         } else {
             for (const Item &it : c.banda.Itens)
                 if (FonteValida(it.Fonte))

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -54,6 +55,7 @@ TEST(CliImprimir, ExitCodesMessagesAndFiles)
     EXPECT_EQ(QDir(dir.path()).entryList({"*.pdf", "*.png", ".*.pdf*"}, QDir::Files | QDir::Hidden),
               QStringList({"r-1.png", "r.pdf"}));
     EXPECT_TRUE(lumeta::teste::LerArquivo(dir.filePath("r.pdf")).startsWith("%PDF"));
+    EXPECT_EQ(QImage(dir.filePath("r-1.png")).size(), QSize(397, 561));  // A4 at 48 dpi
 }
 
 }  // namespace

@@ -10,12 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QPainter>
-#include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 
 namespace lumeta {
 namespace {
@@ -205,63 +201,6 @@ TEST(Paginacao, MacrosGetPagesAndVariablesAsThePageStartsAndEnds)
     EXPECT_EQ(m.BandasDaPagina(1).at(0).banda.Itens[0].Texto, "07/03/2026 09:05:04");
 }
 
-TEST(LeituraComandos, ItemsComeBackFromTheirLines)
-{
-    // Every kind of band line, as the editor writes them for one band.
-    LayoutDocumento doc;
-    Banda b;
-    b.Altura = 40;
-    Item texto;
-    texto.Texto = QStringLiteral("Total");
-    texto.Largura = 100;
-    texto.CorFundo = 7;
-    texto.Linhas = QStringLiteral("1001000000");
-    texto.Espessura = 2;
-    texto.CorLinha = 4;
-    Item vazio = texto;  // lines and no text: an "L " line of its own
-    vazio.Texto.clear();
-    vazio.Fonte.Negrito = true;
-    Item figura;
-    figura.Tipo = TipoFigura;
-    figura.Texto = QStringLiteral("\"logo.bmp\"");
-    Item barras;
-    barras.Tipo = 34;
-    barras.Texto = QStringLiteral("\"2024\"");
-    barras.Largura = 120;
-    Item grafico;
-    grafico.Tipo = TipoBarraGrafico;
-    grafico.Texto = QStringLiteral("\"33\"");
-    grafico.CorTexto = 12;
-    Item pdf;
-    pdf.Tipo = TipoPDF417;
-    pdf.Texto = QStringLiteral("\"Lumeta\"");
-    b.Itens = {texto, vazio, figura, barras, grafico, pdf};
-    doc.Bandas = {b};
-    doc.ReposicionarTudo();
-
-    MotorImpressao m;
-    ASSERT_TRUE(m.AbrirTexto(GerarTextoComandos(doc), "x")) << m.Erro().toStdString();
-    const auto bandas = m.BandasDaPagina(1);
-    ASSERT_EQ(bandas.size(), 1u);
-    const Banda &lida = bandas[0].banda;
-    ASSERT_EQ(lida.NumItens(), 6);
-    EXPECT_EQ(lida.Itens[0], doc.Bandas[0].Itens[0]);
-    EXPECT_EQ(lida.Itens[1], doc.Bandas[0].Itens[1]);
-    // Values come as the painter reads fixed ones; colours the lines do not
-    // carry keep their defaults.
-    const QString valores[] = {"logo.bmp", "\"2024\"", "\"33\"", "\"Lumeta\""};
-    const int tipos[] = {TipoFigura, 34, TipoBarraGrafico, TipoPDF417};
-    for (int i = 0; i < 4; ++i) {
-        const Item &it = lida.Itens[2 + i];
-        EXPECT_EQ(it.Texto, valores[i]);
-        EXPECT_EQ(it.Tipo, tipos[i]);
-        EXPECT_EQ(it.Esquerda, doc.Bandas[0].Itens[2 + i].Esquerda);
-        EXPECT_EQ(it.Largura, doc.Bandas[0].Itens[2 + i].Largura);
-    }
-    EXPECT_EQ(lida.Itens[4].CorTexto, 12);
-    EXPECT_EQ(lida.Altura, 40);
-}
-
 TEST(LeituraComandos, BadInputIsRefusedNamingTheLine)
 {
     const QString bom = Bloco("a", 20);
@@ -371,8 +310,9 @@ TEST(PapelECanvas, EachBandPrintsTheCanvasPixels)
     }
 
     QRandomGenerator aleatorio(20261124);
+    // An empty text with lines or a background is an "L " line alone.
     const char *textos[] = {"Total", "{n}Cliente{/n} especial com nome longo", "\"7891234567895\"", "\"42\"",
-                            "Uma frase longa que quebra em várias linhas dentro da célula estreita"};
+                            "Uma frase longa que quebra em várias linhas dentro da célula estreita", ""};
     const uint8_t tipos[] = {TipoTexto, TipoTexto, 31, 39, TipoBarraGrafico, TipoComando, TipoPDF417};
     for (int semente = 0; semente < 12; ++semente) {
         LayoutDocumento doc;
@@ -388,8 +328,11 @@ TEST(PapelECanvas, EachBandPrintsTheCanvasPixels)
                 it.Texto = QString::fromUtf8(textos[aleatorio.bounded(int(std::size(textos)))]);
                 // A symbol of a field shows a sample on the canvas and
                 // another in the command text: only fixed values compare.
+                // An empty bar shows a sample on the canvas and is no line at all.
                 if (EhCodigoBarras(it.Tipo) && !it.Texto.startsWith(QLatin1Char('"')))
                     it.Texto = QStringLiteral("\"1234\"");
+                if (it.Tipo == TipoBarraGrafico && it.Texto.isEmpty())
+                    it.Texto = QStringLiteral("\"10\"");
                 it.Largura = 20 + aleatorio.bounded(200);
                 it.CorFundo = aleatorio.bounded(3) == 0 ? uint8_t(aleatorio.bounded(16)) : CorTransparente;
                 it.Linhas = aleatorio.bounded(2) ? QStringLiteral("1101100000") : QStringLiteral("0000000000");
@@ -409,36 +352,6 @@ TEST(PapelECanvas, EachBandPrintsTheCanvasPixels)
         SCOPED_TRACE(semente);
         CompararComCanvas(doc);
     }
-}
-
-TEST(SaidasImpressao, PdfAndPngPagesAreWrittenWholeOrNotAtAll)
-{
-    QTemporaryDir dir;
-    MotorImpressao m;
-    ASSERT_TRUE(m.AbrirTexto(Bloco("cab", 50, "FC") + Detalhes(25, 100) + Bloco("Página (%_pag_%)", 30, "RO"), "x"));
-    QString erro;
-    const QString pdf = dir.filePath("r.pdf");
-    ASSERT_TRUE(GravarPDF(m, pdf, erro)) << erro.toStdString();
-    QProcess texto;
-    texto.start("pdftotext", {"-layout", pdf, "-"});
-    ASSERT_TRUE(texto.waitForFinished(30000));
-    const QString lido = QString::fromUtf8(texto.readAllStandardOutput());
-    EXPECT_EQ(lido.count("cab"), 3);
-    for (int p = 1; p <= 3; ++p)
-        EXPECT_TRUE(lido.contains(QStringLiteral("Página %1").arg(p)));
-    EXPECT_LT(lido.indexOf(QStringLiteral(" 9\n")), lido.indexOf(QStringLiteral("10\n")));
-
-    ASSERT_TRUE(GravarPNGs(m, dir.filePath("r.png"), 48, erro)) << erro.toStdString();
-    for (int p = 1; p <= 3; ++p) {
-        const QImage img(dir.filePath(QStringLiteral("r-%1.png").arg(p)));
-        EXPECT_EQ(img.size(), QSize(397, 561));  // A4 at 48 dpi
-    }
-    EXPECT_FALSE(QFile::exists(dir.filePath("r-4.png")));
-
-    // A folder that is not there: the message names the file, nothing is left.
-    EXPECT_FALSE(GravarPDF(m, dir.filePath("nao/r.pdf"), erro));
-    EXPECT_TRUE(erro.startsWith(QStringLiteral("Ocorreu um erro ao gravar o arquivo '"))) << erro.toStdString();
-    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 4);
 }
 
 }  // namespace

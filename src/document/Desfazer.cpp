@@ -14,6 +14,7 @@ void AnelDesfazer::Gravar(const LayoutDocumento &doc, int bandaSelecionada, int 
     PosicaoDesfazer = proxima(PosicaoDesfazer);
     if (PosicaoDesfazer == InicioDesfazer)
         InicioDesfazer = proxima(InicioDesfazer);
+    FimRefazer = PosicaoDesfazer;
     InstantaneoDesfazer &s = m_slots[size_t(PosicaoDesfazer - 1)];
     s.NumBandas = int16_t(doc.NumBandas());
     s.BandaSelecionada = int16_t(bandaSelecionada);
@@ -24,16 +25,30 @@ void AnelDesfazer::Gravar(const LayoutDocumento &doc, int bandaSelecionada, int 
     s.Quebras = doc.Quebras;
 }
 
-void AnelDesfazer::Voltar(LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado)
+namespace {
+
+void Restaurar(const InstantaneoDesfazer &s, LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado)
 {
-    PosicaoDesfazer = anterior(PosicaoDesfazer);
-    const InstantaneoDesfazer &s = m_slots[size_t(PosicaoDesfazer - 1)];
     doc.Bandas = s.Bandas;
     doc.BandaCabecalho = s.BandaCabecalho;
     doc.BandaRodape = s.BandaRodape;
     doc.Quebras = s.Quebras;
     bandaSelecionada = s.BandaSelecionada;
     itemSelecionado = s.ItemSelecionado;
+}
+
+}  // namespace
+
+void AnelDesfazer::Voltar(LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado)
+{
+    PosicaoDesfazer = anterior(PosicaoDesfazer);
+    Restaurar(m_slots[size_t(PosicaoDesfazer - 1)], doc, bandaSelecionada, itemSelecionado);
+}
+
+void AnelDesfazer::Avancar(LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado)
+{
+    PosicaoDesfazer = proxima(PosicaoDesfazer);
+    Restaurar(m_slots[size_t(PosicaoDesfazer - 1)], doc, bandaSelecionada, itemSelecionado);
 }
 
 }  // namespace lumeta

@@ -25,10 +25,11 @@ public:
 
     int PosicaoDesfazer = 1;   // slot of the current state
     int InicioDesfazer = 1;    // oldest slot still held
+    int FimRefazer = 1;        // newest slot an undo stepped back from
     bool SemInstantaneo = false;
 
     // Advances the current slot (dropping the oldest when the ring is full)
-    // and copies the state into it.
+    // and copies the state into it; what undo had stepped back from is gone.
     void Gravar(const LayoutDocumento &doc, int bandaSelecionada, int itemSelecionado);
     // Whether there is a state before the current one.
     bool PodeDesfazer() const { return PosicaoDesfazer != InicioDesfazer; }
@@ -36,6 +37,10 @@ public:
     // selection. The caller repaints without a snapshot.
     void Voltar(LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado);
 
+    // Whether an undo can be taken back: no edit came after it.
+    bool PodeRefazer() const { return PosicaoDesfazer != FimRefazer; }
+    // Steps forward one slot and copies that state, like Voltar.
+    void Avancar(LayoutDocumento &doc, int &bandaSelecionada, int &itemSelecionado);
     const InstantaneoDesfazer &Posicao(int n) const { return m_slots[size_t(n - 1)]; }
 
 private:

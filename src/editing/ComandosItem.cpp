@@ -134,6 +134,47 @@ void AlternarLinha(SessaoEdicao &s, int n)
     MostrarSelecao(s);
 }
 
+namespace {
+
+// Positions of the outer lines in Linhas: right, bottom, top, left.
+constexpr int PosicoesMoldura[] = {2, 4, 5, 6};
+
+}  // namespace
+
+bool TemMoldura(const Item &item)
+{
+    for (int n : PosicoesMoldura)
+        if (item.Linhas.size() < n || item.Linhas.at(n - 1) != u'1')
+            return false;
+    return true;
+}
+
+void AlternarMoldura(SessaoEdicao &s)
+{
+    if (!temItem(s))
+        return;
+    const QChar novo = TemMoldura(s.Documento.banda(s.BandaSelecionada).Itens[s.ItemSelecionado - 1]) ? u'0' : u'1';
+    for (const AlvoItens &a : ItensAlvo(s))
+        for (int n : PosicoesMoldura)
+            s.Documento.banda(a.banda).Itens[a.item - 1].Linhas[n - 1] = novo;
+    s.ExibirBanda();
+    MostrarSelecao(s);
+}
+
+void AlternarEstiloFonte(SessaoEdicao &s, EstiloFonte estilo)
+{
+    if (!temItem(s))
+        return;
+    auto campo = [estilo](FonteItem &f) -> bool & {
+        return estilo == EstiloFonte::Negrito ? f.Negrito : estilo == EstiloFonte::Italico ? f.Italico : f.Sublinhado;
+    };
+    const bool novo = !campo(s.Documento.banda(s.BandaSelecionada).Itens[s.ItemSelecionado - 1].Fonte);
+    for (const AlvoItens &a : ItensAlvo(s))
+        campo(s.Documento.banda(a.banda).Itens[a.item - 1].Fonte) = novo;
+    s.ExibirBanda();
+    MostrarSelecao(s);
+}
+
 void AplicarLargura(SessaoEdicao &s, int32_t largura)
 {
     QSet<int> bandas;
@@ -149,6 +190,7 @@ EstadoMenuEditar PrepararMenuEditar(const SessaoEdicao &s, bool focoEmTexto)
 {
     EstadoMenuEditar e;
     e.desfazer = !focoEmTexto && s.PodeDesfazer();
+    e.refazer = !focoEmTexto && s.PodeRefazer();
     const Banda &b = s.Documento.banda(s.BandaSelecionada);
     if (temItem(s)) {
         const int tipo = b.Itens[s.ItemSelecionado - 1].Tipo;

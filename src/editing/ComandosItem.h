@@ -27,6 +27,15 @@ void DefinirTipoItem(SessaoEdicao &s, uint8_t tipo);
 // A line button (1..6): the selected item's line n switches, and every item
 // of the range takes the new state; then the repaint.
 void AlternarLinha(SessaoEdicao &s, int n);
+// The four outer lines of the selected item, or of every item of a visible
+// range, on together, or off when the selected item has all four.
+void AlternarMoldura(SessaoEdicao &s);
+// Bold, italic or underline of the same items' fonts switched as one change,
+// following the selected item's font. Nothing without an item.
+enum class EstiloFonte { Negrito, Italico, Sublinhado };
+void AlternarEstiloFonte(SessaoEdicao &s, EstiloFonte estilo);
+// Whether the selected item has all four outer lines.
+bool TemMoldura(const Item &item);
 
 // The width of the selected item, or of every item of the range, followed
 // by the relayout of the bands concerned. No repaint.
@@ -36,6 +45,7 @@ void AplicarLargura(SessaoEdicao &s, int32_t largura);
 // captions that depend on the selection.
 struct EstadoMenuEditar {
     bool desfazer = false;
+    bool refazer = false;
     bool itemComandos = false;      // remove, duplicate, left, right, style, macro
     bool tipoTexto = false;
     bool tipoFigura = false;

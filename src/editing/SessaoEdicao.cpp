@@ -249,6 +249,19 @@ void SessaoEdicao::DesfazerEdicao()
     if (!Desfazer.PodeDesfazer())
         return;
     Desfazer.Voltar(Documento, BandaSelecionada, ItemSelecionado);
+    Restaurado();
+}
+
+void SessaoEdicao::RefazerEdicao()
+{
+    if (!Desfazer.PodeRefazer())
+        return;
+    Desfazer.Avancar(Documento, BandaSelecionada, ItemSelecionado);
+    Restaurado();
+}
+
+void SessaoEdicao::Restaurado()
+{
     // The range was drawn over the bands being replaced: it may name bands
     // or items the restored layout does not have.
     Faixa = FaixaSelecao();

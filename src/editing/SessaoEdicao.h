@@ -121,6 +121,9 @@ public:
 
     bool PodeDesfazer() const { return Desfazer.PodeDesfazer(); }
     void DesfazerEdicao();
+    bool PodeRefazer() const { return Desfazer.PodeRefazer(); }
+    // Takes back the last undo, until the next edit.
+    void RefazerEdicao();
 
     // --- start-up and shut-down --------------------------------------------
     // Steps of the start that are not widgets: the program folder setting,
@@ -175,6 +178,9 @@ private:
     // After a document was loaded or reset: relayout, caption, scroll bars,
     // repaint into a restarted undo ring, selection and panel.
     void AposCarregar();
+    // After undo or redo put a stored state back: repaint without a
+    // snapshot, selection and panel.
+    void Restaurado();
     void abrir(const QString &caminho);
     void chamar(const std::function<void()> &f) const
     {

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QTest>
+#include <QToolButton>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
@@ -171,4 +172,37 @@ TEST(EdicaoCanvas, BandaSemItensDeUmArquivoAceitaTeclasMenusEMagico)
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(40, y));
     ASSERT_EQ(e.s.Documento.banda(2).NumItens(), 1);
     EXPECT_EQ(e.item(2, 1).Largura, 48);
+}
+
+TEST(EdicaoCanvas, TeclasDeEstiloMolduraDesfazerERefazer)
+{
+    Editor e(1);
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
+    ASSERT_EQ(e.s.ItemSelecionado, 1);
+    const FonteItem original = e.item(1, 1).Fonte;
+    QTest::keyClick(e.pagina, Qt::Key_B, Qt::ControlModifier);
+    QTest::keyClick(e.pagina, Qt::Key_5, Qt::ControlModifier);
+    EXPECT_TRUE(e.item(1, 1).Fonte.Negrito);
+    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0101110000"));  // right, bottom, top, left
+    auto *moldura = e.janela.findChild<QToolButton *>(QStringLiteral("btnMoldura"));
+    EXPECT_TRUE(moldura->isChecked());
+    EXPECT_EQ(moldura->toolTip(), QStringLiteral("Moldura - [CTRL + 5]"));
+
+    // Each key is one step back; Ctrl+Y and Ctrl+Shift+Z take them back.
+    QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.item(1, 1).Fonte, original);
+    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0000000000"));
+    QTest::keyClick(e.pagina, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_TRUE(e.item(1, 1).Fonte.Negrito);
+    QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0101110000"));
+
+    // The frame goes off when all four lines are on; italic and underline.
+    QTest::mouseClick(moldura, Qt::LeftButton);
+    QTest::keyClick(e.pagina, Qt::Key_I, Qt::ControlModifier);
+    QTest::keyClick(e.pagina, Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0000000000"));
+    EXPECT_TRUE(e.item(1, 1).Fonte.Italico && e.item(1, 1).Fonte.Sublinhado);
+    EXPECT_FALSE(e.s.PodeRefazer());
 }

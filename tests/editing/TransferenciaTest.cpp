@@ -235,6 +235,17 @@ TEST_F(Transferencia, DozeDesfazerNoMaximoDepoisDeDozeOuMaisEdicoes)
         EXPECT_FALSE(s.Faixa.visivel);
     }
     EXPECT_EQ(desfeitos, 12);
+    // Redo takes each undo back until the next edit.
+    for (int k = 1; k <= 3; ++k) {
+        ASSERT_TRUE(s.PodeRefazer());
+        s.RefazerEdicao();
+        EXPECT_EQ(s.Documento.Bandas, estados[3 + k].Bandas) << k;
+    }
+    s.DesfazerEdicao();
+    mnuEditarBandaAdicionar(s);
+    EXPECT_FALSE(s.PodeRefazer());
+    s.RefazerEdicao();
+    EXPECT_EQ(s.Documento.NumBandas(), estados[5].NumBandas() + 1);
 }
 
 TEST_F(Transferencia, CopiaQueUmaColagemNaoLeriaNaoSubstituiAAnterior)

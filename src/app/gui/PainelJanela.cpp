@@ -163,7 +163,8 @@ QIcon iconeLinha(int n)
     case 3: p.drawLine(9, 2, 9, 15); break;     // vertical middle
     case 4: p.drawLine(2, 15, 15, 15); break;   // bottom
     case 5: p.drawLine(2, 2, 15, 2); break;     // top
-    default: p.drawLine(2, 2, 2, 15); break;    // left
+    case 6: p.drawLine(2, 2, 2, 15); break;     // left
+    default: p.drawRect(2, 2, 13, 13); break;   // the whole frame
     }
     return QIcon(px);
 }
@@ -439,6 +440,10 @@ void PainelJanela::criar()
         hLinhas->addWidget(b);
         connect(b, &QToolButton::clicked, this, [this, n] { ClicarLinha(n); });
     }
+    btnMoldura = botao(fraLinhas, QStringLiteral("btnMoldura"), QStringLiteral("Moldura - [CTRL + 5]"), iconeLinha(7));
+    btnMoldura->setCheckable(true);
+    hLinhas->addWidget(btnMoldura);
+    connect(btnMoldura, &QToolButton::clicked, this, &PainelJanela::ClicarMoldura);
     hLinhas->addSpacing(6);
     numThickness = new NumeroCtl(fraLinhas);
     numThickness->setObjectName(QStringLiteral("numThickness"));
@@ -606,6 +611,9 @@ void PainelJanela::Atualizar()
         lblAlinhamento[size_t(n)]->setChecked(e.linhas[size_t(n)]);
         lblAlinhamento[size_t(n)]->setEnabled(e.temItem);
     }
+    // Right, bottom, top and left: the four outer lines.
+    btnMoldura->setChecked(e.linhas[1] && e.linhas[3] && e.linhas[4] && e.linhas[5]);
+    btnMoldura->setEnabled(e.temItem);
     picCores->marcaCima = e.corTexto;
     picCores->marcaBaixo = e.corFundo;
     picCoresLinhas->marcaCima = e.corLinha;
@@ -701,6 +709,17 @@ void PainelJanela::ClicarLinha(int n)
     if (n < 1 || n > 6 || !lblAlinhamento[size_t(n - 1)]->isEnabled())
         return;
     executar([this, n] { AlternarLinha(m_sessao, n); });
+}
+
+void PainelJanela::ClicarMoldura()
+{
+    if (btnMoldura->isEnabled())
+        executar([this] { AlternarMoldura(m_sessao); });
+}
+
+void PainelJanela::AlternarEstilo(EstiloFonte estilo)
+{
+    executar([this, estilo] { AlternarEstiloFonte(m_sessao, estilo); });
 }
 
 void PainelJanela::InserirMacro(int indice)

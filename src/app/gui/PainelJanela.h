@@ -2,6 +2,7 @@
 // The property panel beside the canvas. It renders the state the core
 // computes (CalcularPainel) and turns the user's actions into the panel
 // commands; values it fills in itself never run a command.
+#include "editing/ComandosItem.h"
 #include "editing/PainelPropriedades.h"
 #include "editing/Paletas.h"
 
@@ -44,6 +45,9 @@ public:
     bool TextoTemFoco() const;
     // A line button clicked by a key.
     void ClicarLinha(int n);
+    // The frame button (Ctrl+5) and the style keys (Ctrl+B, I, U).
+    void ClicarMoldura();
+    void AlternarEstilo(EstiloFonte estilo);
     // `mnuEditarMacroItem(indice)`.
     void InserirMacro(int indice);
     // Where the focus returns after Enter in the text box.
@@ -59,6 +63,7 @@ public:
     QGroupBox *fraAlinhamentoTexto = nullptr;
     std::array<QCheckBox *, 10> chkAlinhamento{};
     std::array<QToolButton *, 6> lblAlinhamento{};
+    QToolButton *btnMoldura = nullptr;
     NumeroCtl *numThickness = nullptr;
     NumeroCtl *numWidth = nullptr;
     NumeroCtl *numHeight = nullptr;

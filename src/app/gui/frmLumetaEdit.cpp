@@ -257,6 +257,14 @@ void frmLumetaEdit::criarMenuEditar()
             m_sessao.DesfazerEdicao();
         prepararMenuEditar();
     });
+    QAction *refazer = item(mnuEditar, QStringLiteral("mnuEditarRefazer"), QStringLiteral("Re&fazer"), false);
+    refazer->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    refazer->setShortcutContext(Qt::WindowShortcut);
+    connect(refazer, &QAction::triggered, this, [this] {
+        if (!ehCaixaDeTexto(QApplication::focusWidget()))
+            m_sessao.RefazerEdicao();
+        prepararMenuEditar();
+    });
     mnuEditar->addSeparator();
     // Each entry runs its session command; the standard shortcuts of any
     // editor sit beside them. A text box with the focus takes its own
@@ -326,6 +334,23 @@ void frmLumetaEdit::criarMenuEditar()
     item(itemMenu, QStringLiteral("mnuEditarItemCodigoBarras"), QStringLiteral("Mudar para Código de &Barras"), false);
     itemMenu->addSeparator();
     item(itemMenu, QStringLiteral("mnuEditarItemEstilo"), QStringLiteral("E&stilo"), false);
+
+    // The frame (Ctrl+5) and the font's bold, italic and underline: one
+    // change each, for the selected item or the visible range.
+    const std::pair<QKeyCombination, std::function<void()>> estilos[] = {
+        {Qt::CTRL | Qt::Key_5, [this] { painel->ClicarMoldura(); }},
+        {QKeyCombination(Qt::ControlModifier | Qt::KeypadModifier, Qt::Key_5), [this] { painel->ClicarMoldura(); }},
+        {Qt::CTRL | Qt::Key_B, [this] { painel->AlternarEstilo(EstiloFonte::Negrito); }},
+        {Qt::CTRL | Qt::Key_I, [this] { painel->AlternarEstilo(EstiloFonte::Italico); }},
+        {Qt::CTRL | Qt::Key_U, [this] { painel->AlternarEstilo(EstiloFonte::Sublinhado); }},
+    };
+    for (const auto &[tecla, acao] : estilos) {
+        auto *atalho = new QShortcut(QKeySequence(tecla), this);
+        connect(atalho, &QShortcut::activated, this, [this, acao] {
+            acao();
+            picPagina->AtualizarMarcas();
+        });
+    }
 
     // The line buttons' shortcuts: Alt + 1..6 and Ctrl + the numeric pad's
     // layout, on the digits and on the pad.
@@ -867,6 +892,7 @@ void frmLumetaEdit::prepararMenuEditar()
 {
     const EstadoMenuEditar e = PrepararMenuEditar(m_sessao, ehCaixaDeTexto(QApplication::focusWidget()));
     Acao(QStringLiteral("mnuEditarDesfazer"))->setEnabled(e.desfazer);
+    Acao(QStringLiteral("mnuEditarRefazer"))->setEnabled(e.refazer);
     for (const char *nome :
          {"mnuEditarItemRemover", "mnuEditarItemDuplicar", "mnuEditarItemLeft", "mnuEditarItemRight", "mnuEditarItemEstilo"})
         Acao(QString::fromLatin1(nome))->setEnabled(e.itemComandos);

@@ -60,6 +60,8 @@ void Configuracoes::Ler()
     UnidadeMedida = lerInteiro(*s, "Unidade de Medida", UnidadePixels);
     NoCobolUsarString = lerBooleano(*s, "No COBOL usar STRING", true);
     MagicItem = lerBooleano(*s, "MagicItem", true);
+    Zoom = std::clamp(lerInteiro(*s, "Zoom", 100), 25, 400);
+    Reguas = lerBooleano(*s, "Exibir Reguas", true);
     FontePadrao.Nome = lerTexto(*s, "FontName", QStringLiteral("Arial"));
     // The font dialog gives 1 to 99 points; the command text has two digits for it.
     FontePadrao.Tamanho = int16_t(std::clamp(lerInteiro(*s, "FontSize", 10), 1, 99));
@@ -92,6 +94,8 @@ void Configuracoes::GravarAoSair() const
     s->setValue(QStringLiteral("Exibir Resultado"), BooleanoParaTexto(ExibirResultado));
     s->setValue(QStringLiteral("Fontes Impressora"), BooleanoParaTexto(FontesImpressora));
     s->setValue(QStringLiteral("Unidade de Medida"), QString::number(UnidadeMedida));
+    s->setValue(QStringLiteral("Zoom"), QString::number(Zoom));
+    s->setValue(QStringLiteral("Exibir Reguas"), BooleanoParaTexto(Reguas));
     s->setValue(QStringLiteral("FontName"), FontePadrao.Nome);
     s->setValue(QStringLiteral("FontSize"), QString::number(FontePadrao.Tamanho));
     s->setValue(QStringLiteral("FontBold"), BooleanoParaTexto(FontePadrao.Negrito));

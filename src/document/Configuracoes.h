@@ -21,6 +21,8 @@ struct Configuracoes {
     int UnidadeMedida = UnidadePixels;
     bool NoCobolUsarString = true;
     bool MagicItem = true;
+    int Zoom = 100;                 // the canvas's zoom, percent (a view setting, like the unit)
+    bool Reguas = true;             // rulers shown beside the canvas
     FonteItem FontePadrao;
     QString CPY;
     QStringList ArquivosRecentes;   // at most 4, most recent first

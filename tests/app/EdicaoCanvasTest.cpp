@@ -2,6 +2,7 @@
 // session-level cases prove the rules, these that the events reach them.
 #include "app/JanelaTeste.h"
 #include "app/gui/CanvasJanela.h"
+#include "canvas/Regua.h"
 #include "editing/AlcasMagico.h"
 #include "editing/DesenhoSelecao.h"
 
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QTest>
+#include <QScrollBar>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -205,4 +207,77 @@ TEST(EdicaoCanvas, TeclasDeEstiloMolduraDesfazerERefazer)
     EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0000000000"));
     EXPECT_TRUE(e.item(1, 1).Fonte.Italico && e.item(1, 1).Fonte.Sublinhado);
     EXPECT_FALSE(e.s.PodeRefazer());
+}
+
+// The same gestures in canvas terms at 50, 100 and 200 %: the same item is
+// hit, a handle drag of one screen distance moves by that distance over the
+// zoom on the 8-pixel grid, the ghost offers the same size, and the layouts
+// that come out are equal.
+TEST(EdicaoCanvas, ZoomGuardaCliquesAlcasEMagicoEmPixelsDoCanvas)
+{
+    QList<LayoutDocumento> resultados;
+    QList<QSize> fantasmas;
+    for (int zoom : {50, 100, 200}) {
+        SCOPED_TRACE(zoom);
+        Editor e(2);
+        e.s.Documento.ReposicionarTudo();
+        e.janela.AplicarZoom(zoom);
+        const double z = zoom / 100.0;
+        EXPECT_EQ(e.pagina->Zoom(), z);
+        EXPECT_EQ(e.s.Config.Zoom, zoom);  // kept in the settings at shut-down
+        // The middle of a canvas pixel, on the screen.
+        auto tela = [&](QPoint c) { return ((QPointF(c - e.pagina->Origem()) + QPointF(0.5, 0.5)) * z).toPoint(); };
+        QTest::mouseClick(e.pagina, Qt::LeftButton, {}, tela(e.centro(2, 2)));
+        ASSERT_EQ(std::pair(e.s.BandaSelecionada, e.s.ItemSelecionado), std::pair(2, 2));
+
+        // 48 screen pixels to the right on the right handle.
+        const QPoint alca = tela(RetanguloAlca(RetanguloSelecao(e.s), 6).center());
+        QTest::mouseMove(e.pagina, alca);
+        QTest::mousePress(e.pagina, Qt::LeftButton, {}, alca);
+        QTest::mouseMove(e.pagina, alca + QPoint(48, 0));
+        QTest::mouseRelease(e.pagina, Qt::LeftButton, {}, alca + QPoint(48, 0));
+        EXPECT_EQ(e.item(2, 2).Largura, 64 + int(std::lround(48 / z / 8)) * 8);
+        e.s.Documento.banda(2).Itens[1].Largura = 64;
+        e.s.ConcluirEdicao();
+
+        // The ghost below the bands offers the same size at every zoom, and
+        // one click adds its band.
+        e.janela.hsbPagina->setValue(0);
+        const QPoint livre(18, e.banda(2).Topo + std::abs(e.banda(2).Altura) + 10);
+        QTest::mouseMove(e.pagina, tela(livre));
+        ASSERT_TRUE(e.s.Magico.visivel);
+        fantasmas << e.s.Magico.retangulo.size();
+        QTest::mouseClick(e.pagina, Qt::LeftButton, {}, tela(livre));
+        EXPECT_EQ(e.s.Documento.NumBandas(), 3);
+        resultados << e.s.Documento;
+    }
+    EXPECT_EQ(resultados[0], resultados[1]);
+    EXPECT_EQ(resultados[2], resultados[1]);
+    EXPECT_EQ(fantasmas[0], fantasmas[1]);
+    EXPECT_EQ(fantasmas[2], fantasmas[1]);
+}
+
+TEST(EdicaoCanvas, ReguasNaUnidadeENoZoomMarcamOItemOndeEleEDesenhado)
+{
+    Editor e(1);
+    e.s.DefinirUnidade(UnidadeMilimetros);
+    e.janela.AplicarZoom(200);
+    e.s.Documento.ReposicionarTudo();
+    const QPoint c = e.centro(1, 2) - e.pagina->Origem();
+    QTest::mouseClick(e.pagina, Qt::LeftButton, {}, c * 2 + QPoint(1, 1));
+    ASSERT_EQ(e.s.ItemSelecionado, 2);
+    auto *regua = e.janela.findChild<Regua *>(QStringLiteral("reguaHorizontal"));
+    ASSERT_NE(regua, nullptr);
+    // The item's left and right edges, where the canvas draws them.
+    const QRect desenhado = e.pagina->ParaWidget(QRect(e.item(1, 2).Esquerda + 8, 0, e.item(1, 2).Largura, 1));
+    const int desvio = e.pagina->mapTo(&e.janela, QPoint()).x() - regua->mapTo(&e.janela, QPoint()).x();
+    EXPECT_EQ(regua->Marcadas(), (std::vector<int>{desenhado.left() + desvio, desenhado.right() + 1 + desvio}));
+    // 10 mm lies 2 x 37.795 screen pixels from the ruler's 0.
+    const auto marcas = MarcasRegua(e.s.UnidadeAtual, 2.0, 0, 8, 400);
+    const auto zero = std::find_if(marcas.begin(), marcas.end(), [](const MarcaRegua &m) { return m.rotulo == "0"; });
+    const auto dez = std::find_if(marcas.begin(), marcas.end(), [](const MarcaRegua &m) { return m.rotulo == "10"; });
+    ASSERT_NE(zero, marcas.end());
+    ASSERT_NE(dez, marcas.end());
+    EXPECT_NEAR(dez->posicao - zero->posicao, 2 * 37.795275, 1e-6);
+    EXPECT_NEAR(zero->posicao, 2 * 8, 1e-9);
 }

@@ -4,6 +4,7 @@
 #include "editing/DesenhoSelecao.h"
 #include "editing/Selecao.h"
 #include "editing/Teclado.h"
+#include "canvas/Regua.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -13,7 +14,9 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPaintEvent>
+#include <cmath>
 #include <cstdlib>
+#include <QWheelEvent>
 
 namespace lumeta {
 
@@ -27,14 +30,43 @@ PicPagina::PicPagina(SessaoEdicao &sessao, QWidget *pai) : QWidget(pai), m_sessa
     setAccessibleName(QStringLiteral("Página"));
 }
 
+QPoint PicPagina::ParaCanvas(QPointF p) const
+{
+    const QPointF c = ParaCanvasF(p);
+    return QPoint(int(std::floor(c.x())), int(std::floor(c.y())));
+}
+
+QRect PicPagina::ParaWidget(const QRect &r) const
+{
+    if (m_zoom == 1.0)
+        return r.translated(-m_origem);
+    const QRectF f(QPointF(r.topLeft() - m_origem) * m_zoom, QSizeF(r.size()) * m_zoom);
+    return f.toAlignedRect();
+}
+
+void PicPagina::DefinirZoom(double zoom)
+{
+    if (zoom == m_zoom)
+        return;
+    m_zoom = zoom;
+    update();
+}
+
 void PicPagina::paintEvent(QPaintEvent *e)
 {
     QPainter p(this);
+    // Painted scaled, never a stretched picture: text stays sharp.
+    p.scale(m_zoom, m_zoom);
     p.translate(-m_origem);
-    const QRect area = e->rect().translated(m_origem);
+    const QRect area = m_zoom == 1.0
+        ? e->rect().translated(m_origem)
+        : QRectF(QPointF(e->rect().topLeft()) / m_zoom + QPointF(m_origem), QSizeF(e->rect().size()) / m_zoom)
+              .toAlignedRect()
+              .adjusted(-1, -1, 1, 1);
     PintarLayout(p, m_sessao.Documento, area, m_sessao.Recursos);
     PintarMarcasEdicao(p, m_sessao, area);
     m_marcas = AreaMarcasEdicao(m_sessao);
+    emit Pintado();
 }
 
 void PicPagina::DefinirOrigem(QPoint origem)
@@ -44,11 +76,27 @@ void PicPagina::DefinirOrigem(QPoint origem)
         return;
     m_origem = origem;
     // Within a screenful the pixels shown are moved and only the strip
-    // uncovered is painted.
-    if (std::abs(qint64(passo.x())) < width() && std::abs(qint64(passo.y())) < height())
-        scroll(passo.x(), passo.y());
+    // uncovered is painted; at a zoom where a canvas pixel is not a whole
+    // number of screen pixels everything is painted again.
+    const QPointF tela = QPointF(passo) * m_zoom;
+    const bool inteiro = tela.x() == std::round(tela.x()) && tela.y() == std::round(tela.y());
+    if (inteiro && std::abs(tela.x()) < width() && std::abs(tela.y()) < height())
+        scroll(int(tela.x()), int(tela.y()));
     else
         update();
+    emit Pintado();
+}
+
+void PicPagina::wheelEvent(QWheelEvent *e)
+{
+    // Ctrl + wheel zooms around the pointer; the plain wheel goes on to the
+    // window, which scrolls.
+    if (e->modifiers() == Qt::ControlModifier && e->angleDelta().y() != 0) {
+        emit ZoomRoda(e->angleDelta().y() > 0 ? 1 : -1, e->position());
+        e->accept();
+        return;
+    }
+    e->ignore();
 }
 
 void PicPagina::AtualizarMarcas()
@@ -60,7 +108,7 @@ void PicPagina::AtualizarMarcas()
 void PicPagina::mousePressEvent(QMouseEvent *e)
 {
     setFocus(Qt::MouseFocusReason);
-    const ReacaoMouse r = PressionarCanvas(m_sessao, ParaCanvasF(e->position()), e->button(), e->modifiers());
+    const ReacaoMouse r = PressionarCanvas(m_sessao, QPointF(ParaCanvas(e->position())), e->button(), e->modifiers());
     AtualizarMarcas();
     if (r == ReacaoMouse::MenuEditar)
         emit MenuEditar(e->globalPosition().toPoint());
@@ -68,7 +116,7 @@ void PicPagina::mousePressEvent(QMouseEvent *e)
 
 void PicPagina::mouseMoveEvent(QMouseEvent *e)
 {
-    MoverCanvas(m_sessao, ParaCanvasF(e->position()), e->buttons(), e->modifiers());
+    MoverCanvas(m_sessao, QPointF(ParaCanvas(e->position())), e->buttons(), e->modifiers());
     if (e->buttons() != Qt::NoButton)
         AtualizarMarcas();   // the rubber frame of a range drag follows the pointer
 }
@@ -208,6 +256,87 @@ QPixmap DesenharArquivoTexto(int lado, qreal escala)
         p.drawLine(QPointF(6.3, y), QPointF(i % 2 ? 11.5 : 13.7, y));
     }
     return px;
+}
+
+Regua::Regua(SessaoEdicao &sessao, const PicPagina &pagina, Qt::Orientation orientacao, QWidget *pai)
+    : QWidget(pai), m_sessao(sessao), m_pagina(pagina), m_orientacao(orientacao)
+{
+    setObjectName(orientacao == Qt::Horizontal ? QStringLiteral("reguaHorizontal") : QStringLiteral("reguaVertical"));
+    setToolTip(orientacao == Qt::Horizontal ? QStringLiteral("Régua horizontal") : QStringLiteral("Régua vertical"));
+    setAccessibleName(toolTip());
+    if (orientacao == Qt::Horizontal)
+        setFixedHeight(Espessura);
+    else
+        setFixedWidth(Espessura);
+}
+
+std::vector<int> Regua::Marcadas() const
+{
+    std::vector<int> r;
+    const int b = m_sessao.BandaSelecionada;
+    if (b < 1 || b > m_sessao.Documento.NumBandas())
+        return r;
+    const Banda &banda = m_sessao.Documento.banda(b);
+    QRect sel;
+    if (m_orientacao == Qt::Horizontal) {
+        if (m_sessao.ItemSelecionado < 1 || m_sessao.ItemSelecionado > banda.NumItens())
+            return r;
+        const Item &it = banda.Itens[m_sessao.ItemSelecionado - 1];
+        sel = QRect(it.Esquerda + DeslocamentoItens, banda.Topo, it.Largura, 1);
+    } else {
+        sel = QRect(0, banda.Topo, 1, std::max(1, int(std::abs(qint64(banda.Altura)))));
+    }
+    // Where the canvas draws those edges, moved into the ruler.
+    const QRect w = m_pagina.ParaWidget(sel);
+    const QPoint desvio = m_pagina.mapTo(window(), QPoint()) - mapTo(window(), QPoint());
+    if (m_orientacao == Qt::Horizontal)
+        r = {w.left() + desvio.x(), w.left() + w.width() + desvio.x()};
+    else
+        r = {w.top() + desvio.y(), w.top() + w.height() + desvio.y()};
+    return r;
+}
+
+void Regua::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    p.fillRect(rect(), palette().window());
+    const bool horizontal = m_orientacao == Qt::Horizontal;
+    const QPoint desvio = m_pagina.mapTo(window(), QPoint()) - mapTo(window(), QPoint());
+    const double zoom = m_pagina.Zoom();
+    const int comprimento = horizontal ? width() : height();
+    // The ruler's own pixel 0 shows canvas coordinate `inicio`.
+    const double inicio =
+        (horizontal ? m_pagina.Origem().x() - desvio.x() / zoom : m_pagina.Origem().y() - desvio.y() / zoom);
+    const double zero = horizontal ? DeslocamentoItens : 0;
+    QFont f = font();
+    f.setPixelSize(9);
+    p.setFont(f);
+    p.setPen(palette().color(QPalette::WindowText));
+    for (const MarcaRegua &m : MarcasRegua(m_sessao.UnidadeAtual, zoom, inicio, zero, comprimento)) {
+        const int pos = int(std::floor(m.posicao));
+        const int tamanho = m.principal ? Espessura - 4 : Espessura / 4;
+        if (horizontal) {
+            p.drawLine(pos, Espessura - tamanho, pos, Espessura - 1);
+            if (m.principal)
+                p.drawText(pos + 2, 10, m.rotulo);
+        } else {
+            p.drawLine(Espessura - tamanho, pos, Espessura - 1, pos);
+            if (m.principal)
+                p.drawText(QRect(1, pos + 1, Espessura - 2, 10), Qt::AlignLeft | Qt::AlignTop, m.rotulo);
+        }
+    }
+    p.setPen(QPen(QColor(0, 0, 128), 1));
+    for (int m : Marcadas()) {
+        if (horizontal)
+            p.drawLine(m, 0, m, Espessura - 1);
+        else
+            p.drawLine(0, m, Espessura - 1, m);
+    }
+    p.setPen(palette().color(QPalette::Mid));
+    if (horizontal)
+        p.drawLine(0, Espessura - 1, width(), Espessura - 1);
+    else
+        p.drawLine(Espessura - 1, 0, Espessura - 1, height());
 }
 
 }  // namespace lumeta

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QWidget>
+#include <vector>
 
 namespace lumeta {
 
@@ -21,10 +22,15 @@ public:
     PicPagina(SessaoEdicao &sessao, QWidget *pai);
 
     // Widget coordinates to canvas pixels and back: the one place that
-    // knows how the page is shown (a zoom would change only these).
-    QPoint ParaCanvas(QPointF p) const { return p.toPoint() + m_origem; }
-    QPointF ParaCanvasF(QPointF p) const { return p + QPointF(m_origem); }
-    QRect ParaWidget(const QRect &r) const { return r.translated(-m_origem); }
+    // knows how the page is shown, moved and zoomed. A point falls in the
+    // canvas pixel under it, so stored positions stay whole at every zoom.
+    QPoint ParaCanvas(QPointF p) const;
+    QPointF ParaCanvasF(QPointF p) const { return p / m_zoom + QPointF(m_origem); }
+    QRect ParaWidget(const QRect &r) const;
+
+    // 1.0 = 100 %. The caller moves the origin and the scroll bars after it.
+    void DefinirZoom(double zoom);
+    double Zoom() const { return m_zoom; }
 
     // The canvas point shown at the widget's top-left corner (the scroll
     // bars' values); what stays in view is moved, the rest painted.
@@ -37,6 +43,8 @@ public:
 signals:
     void MenuEditar(const QPoint &global);     // a right click asks for the Edit menu
     void Rolar(int acao);                       // a scrolling key (AcaoRolagem)
+    void ZoomRoda(int sentido, QPointF ponto);  // Ctrl + wheel over the canvas, at a widget point
+    void Pintado();                             // the rulers follow every repaint
 
 protected:
     void paintEvent(QPaintEvent *e) override;
@@ -45,12 +53,34 @@ protected:
     void mouseReleaseEvent(QMouseEvent *e) override;
     void leaveEvent(QEvent *e) override;
     void keyPressEvent(QKeyEvent *e) override;
+    void wheelEvent(QWheelEvent *e) override;
     bool event(QEvent *e) override;
 
 private:
     SessaoEdicao &m_sessao;
     QRect m_marcas;   // what the marks covered at the last paint
     QPoint m_origem;
+    double m_zoom = 1.0;
+};
+
+// A ruler beside the canvas in the current unit, following scroll and zoom,
+// with the selected item's left and right (across) or the selected band's
+// top and bottom (down) marked on it.
+class Regua : public QWidget {
+    Q_OBJECT
+public:
+    Regua(SessaoEdicao &sessao, const PicPagina &pagina, Qt::Orientation orientacao, QWidget *pai);
+    // Where the selection's edges are marked, in the ruler's pixels.
+    std::vector<int> Marcadas() const;
+    static constexpr int Espessura = 20;
+
+protected:
+    void paintEvent(QPaintEvent *e) override;
+
+private:
+    SessaoEdicao &m_sessao;
+    const PicPagina &m_pagina;
+    Qt::Orientation m_orientacao;
 };
 
 class PicContainer : public QWidget {

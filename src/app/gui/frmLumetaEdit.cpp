@@ -3,6 +3,7 @@
 #include "app/gui/Autor.h"
 #include "app/gui/JanelaAjuda.h"
 #include "app/gui/JanelaPrevia.h"
+#include "canvas/Regua.h"
 #include "app/gui/CanvasJanela.h"
 #include "app/gui/PainelJanela.h"
 #include "controls/ModuloAssociar.h"
@@ -32,6 +33,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QGridLayout>
@@ -458,6 +460,36 @@ void frmLumetaEdit::criarMenuConfig()
         const int codigo = u.codigo;
         connect(a, &QAction::triggered, this, [this, codigo] { m_sessao.DefinirUnidade(codigo); });
     }
+    // The view: zoom and rulers, kept in the settings like the unit.
+    QMenu *zoom = submenu(mnuConfig, QStringLiteral("mnuConfigZoom"), QStringLiteral("&Zoom"));
+    const struct {
+        const char *nome;
+        const char *legenda;
+        QList<QKeySequence> teclas;
+        int sentido;  // +1 in, -1 out, 0 the real size, 2 the page's width
+    } zooms[] = {{"mnuConfigZoomAmpliar", "&Ampliar", {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)}, 1},
+                 {"mnuConfigZoomReduzir", "&Reduzir", {QKeySequence::ZoomOut}, -1},
+                 {"mnuConfigZoomReal", "&Tamanho real", {QKeySequence(Qt::CTRL | Qt::Key_0)}, 0},
+                 {"mnuConfigZoomLargura", "Ajustar à &largura da página", {}, 2}};
+    for (const auto &z : zooms) {
+        QAction *a = item(zoom, QString::fromLatin1(z.nome), QString::fromUtf8(z.legenda));
+        a->setShortcuts(z.teclas);
+        a->setShortcutContext(Qt::WindowShortcut);
+        addAction(a);
+        const int sentido = z.sentido;
+        connect(a, &QAction::triggered, this, [this, sentido] {
+            const int atual = m_sessao.Config.Zoom;
+            AplicarZoom(sentido == 0 ? 100
+                        : sentido == 2 ? ZoomLarguraPagina(picContainer->width(), m_sessao.Documento.Paisagem)
+                                       : ProximoZoom(atual, sentido));
+        });
+    }
+    QAction *reguas = item(mnuConfig, QStringLiteral("mnuConfigReguas"), QStringLiteral("Exibir ré&guas"));
+    reguas->setCheckable(true);
+    connect(reguas, &QAction::triggered, this, [this](bool v) {
+        m_sessao.Config.Reguas = v;
+        mostrarReguas();
+    });
     QAction *resultado = item(mnuConfig, QStringLiteral("mnuConfigResultado"), QStringLiteral("&Exibir o arquivo texto"));
     resultado->setCheckable(true);
     connect(resultado, &QAction::triggered, this, [this] { m_sessao.AlternarResultado(); });
@@ -535,6 +567,23 @@ void frmLumetaEdit::criarJanela()
             OcultarMagico(m_sessao);
     });
     lBarra->addWidget(btnMagic);
+    lBarra->addSpacing(12);
+    auto *rotuloZoom = new QLabel(QStringLiteral("&Zoom:"), barra);
+    cmbZoom = new QComboBox(barra);
+    cmbZoom->setObjectName(QStringLiteral("cmbZoom"));
+    for (int z : PassosZoom())
+        cmbZoom->addItem(QStringLiteral("%1 %").arg(z), z);
+    cmbZoom->addItem(QStringLiteral("Ajustar à largura da página"), 0);
+    cmbZoom->setFocusPolicy(Qt::TabFocus);
+    rotuloZoom->setBuddy(cmbZoom);
+    cmbZoom->setAccessibleName(QStringLiteral("Zoom:"));
+    connect(cmbZoom, &QComboBox::activated, this, [this](int i) {
+        const int z = cmbZoom->itemData(i).toInt();
+        AplicarZoom(z > 0 ? z : ZoomLarguraPagina(picContainer->width(), m_sessao.Documento.Paisagem));
+        picPagina->setFocus();
+    });
+    lBarra->addWidget(rotuloZoom);
+    lBarra->addWidget(cmbZoom);
     lBarra->addStretch(1);
     imgResultado = new ImagemClicavel(barra);
     imgResultado->setObjectName(QStringLiteral("imgResultado"));
@@ -588,11 +637,23 @@ void frmLumetaEdit::criarJanela()
     lMoldura->setContentsMargins(1, 1, 1, 1);
     lMoldura->setSpacing(0);
     picContainer->setParent(moldura);
-    lMoldura->addWidget(picContainer, 0, 0);
+    reguaHorizontal = new Regua(m_sessao, *picPagina, Qt::Horizontal, moldura);
+    reguaVertical = new Regua(m_sessao, *picPagina, Qt::Vertical, moldura);
+    cantoReguas = new QWidget(moldura);
+    cantoReguas->setFixedSize(Regua::Espessura, Regua::Espessura);
+    lMoldura->addWidget(cantoReguas, 0, 0);
+    lMoldura->addWidget(reguaHorizontal, 0, 1);
+    lMoldura->addWidget(reguaVertical, 1, 0);
+    lMoldura->addWidget(picContainer, 1, 1);
     vsbPagina->setParent(moldura);
     hsbPagina->setParent(moldura);
-    lMoldura->addWidget(vsbPagina, 0, 1);
-    lMoldura->addWidget(hsbPagina, 1, 0);
+    lMoldura->addWidget(vsbPagina, 1, 2);
+    lMoldura->addWidget(hsbPagina, 2, 1);
+    connect(picPagina, &PicPagina::Pintado, reguaHorizontal, qOverload<>(&QWidget::update));
+    connect(picPagina, &PicPagina::Pintado, reguaVertical, qOverload<>(&QWidget::update));
+    connect(picPagina, &PicPagina::ZoomRoda, this, [this](int sentido, QPointF ponto) {
+        AplicarZoom(ProximoZoom(m_sessao.Config.Zoom, sentido), ponto);
+    });
     lCanvas->addWidget(moldura, 1, 0, 1, 2);
     lCanvas->setRowStretch(1, 1);
     lCanvas->setColumnStretch(0, 1);
@@ -753,6 +814,8 @@ bool frmLumetaEdit::Iniciar(const QStringList &argumentos)
 void frmLumetaEdit::aplicarConfiguracoes()
 {
     btnMagic->setValue(m_sessao.Config.MagicItem);
+    AplicarZoom(m_sessao.Config.Zoom);
+    mostrarReguas();
     atualizarOpcoes();
 }
 
@@ -783,6 +846,9 @@ void frmLumetaEdit::atualizarRecentes()
 
 void frmLumetaEdit::atualizarUnidade()
 {
+    // The rulers count in the unit.
+    reguaHorizontal->update();
+    reguaVertical->update();
     const int codigo = m_sessao.Config.UnidadeMedida;
     bool algum = false;
     for (QAction *a : m_grupoMedida->actions()) {
@@ -855,18 +921,60 @@ void frmLumetaEdit::mostrarTextoResultado(const QString &texto)
     rtbResultado->horizontalScrollBar()->setValue(h);
 }
 
+QSize frmLumetaEdit::ViewportCanvas() const
+{
+    // The scroll bars count canvas pixels: the viewport holds this many of them.
+    const double z = picPagina->Zoom();
+    return QSize(int(std::ceil(picContainer->width() / z)), int(std::ceil(picContainer->height() / z)));
+}
+
 void frmLumetaEdit::AtualizarRolagem()
 {
-    const QPoint maximo = MaximoRolagem(m_sessao.Canvas.Tamanho, picContainer->size());
+    const QSize vista = ViewportCanvas();
+    const QPoint maximo = MaximoRolagem(m_sessao.Canvas.Tamanho, vista);
     hsbPagina->setMaximum(maximo.x());
     vsbPagina->setMaximum(maximo.y());
-    hsbPagina->setPageStep(std::max(1, picContainer->width()));
-    vsbPagina->setPageStep(std::max(1, picContainer->height()));
+    hsbPagina->setPageStep(std::max(1, vista.width()));
+    vsbPagina->setPageStep(std::max(1, vista.height()));
     // The page shows what the viewport holds of the canvas, from the bars' values on.
-    const QSize canvas = m_sessao.Canvas.Tamanho;
-    picPagina->setGeometry(0, 0, std::min(canvas.width(), picContainer->width()),
-                           std::min(canvas.height(), picContainer->height()));
+    const QSizeF canvas = QSizeF(m_sessao.Canvas.Tamanho) * picPagina->Zoom();
+    picPagina->setGeometry(0, 0, std::min(int(std::ceil(canvas.width())), picContainer->width()),
+                           std::min(int(std::ceil(canvas.height())), picContainer->height()));
     picPagina->DefinirOrigem(QPoint(hsbPagina->value(), vsbPagina->value()));
+}
+
+void frmLumetaEdit::AplicarZoom(int percentual, QPointF ancora)
+{
+    percentual = std::clamp(percentual, ZoomMinimo, ZoomMaximo);
+    const bool noPonteiro = ancora.x() >= 0;
+    if (!noPonteiro)
+        ancora = QPointF(picContainer->width() / 2.0, picContainer->height() / 2.0);
+    // The canvas point under the pointer (or the view's middle) stays there.
+    const QPointF fixo = picPagina->ParaCanvasF(ancora);
+    m_sessao.Config.Zoom = percentual;
+    picPagina->DefinirZoom(percentual / 100.0);
+    AtualizarRolagem();
+    const QPointF origem = fixo - ancora / picPagina->Zoom();
+    hsbPagina->setValue(int(std::lround(origem.x())));
+    vsbPagina->setValue(int(std::lround(origem.y())));
+    // From the box or the keys, the selection stays in view.
+    if (!noPonteiro)
+        MostrarSelecao();
+    picPagina->update();
+    // A zoom between the steps came from fitting the page's width.
+    const int i = cmbZoom->findData(percentual);
+    cmbZoom->setCurrentIndex(i >= 0 ? i : cmbZoom->count() - 1);
+    cmbZoom->setToolTip(QStringLiteral("Zoom: %1 %").arg(percentual));
+}
+
+void frmLumetaEdit::mostrarReguas()
+{
+    const bool v = m_sessao.Config.Reguas;
+    reguaHorizontal->setVisible(v);
+    reguaVertical->setVisible(v);
+    cantoReguas->setVisible(v);
+    if (QAction *a = Acao(QStringLiteral("mnuConfigReguas")))
+        a->setChecked(v);
 }
 
 void frmLumetaEdit::RolarCanvas(DirecaoRolagem direcao)
@@ -879,7 +987,7 @@ void frmLumetaEdit::MostrarSelecao()
 {
     const QPoint atual(hsbPagina->value(), vsbPagina->value());
     const QPoint novo = RolarParaSelecao(m_sessao.Documento, m_sessao.BandaSelecionada, m_sessao.ItemSelecionado,
-                                         atual, picContainer->size(), QPoint(hsbPagina->maximum(), vsbPagina->maximum()));
+                                         atual, ViewportCanvas(), QPoint(hsbPagina->maximum(), vsbPagina->maximum()));
     if (novo.x() != atual.x())
         hsbPagina->setValue(novo.x());
     if (novo.y() != atual.y())

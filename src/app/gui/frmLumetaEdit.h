@@ -14,6 +14,7 @@
 #include <memory>
 
 class QAction;
+class QComboBox;
 class QActionGroup;
 class QMenu;
 class QScrollBar;
@@ -25,6 +26,7 @@ namespace lumeta {
 class ImagemClicavel;
 class PicContainer;
 class PicPagina;
+class Regua;
 class PainelJanela;
 class TabCtl;
 class XPButtonCtl;
@@ -58,6 +60,11 @@ public:
     void MostrarSelecao();
     // Scroll bar maxima from the canvas and viewport sizes.
     void AtualizarRolagem();
+    // The canvas's zoom in percent, kept around a widget point of the page
+    // (the view's middle when none is given).
+    void AplicarZoom(int percentual, QPointF ancora = QPointF(-1, -1));
+    // How many canvas pixels the viewport shows at the zoom.
+    QSize ViewportCanvas() const;
 
     // How a failed open ends the program (default: leave the event loop
     // with status 1, without the shut-down questions).
@@ -74,6 +81,10 @@ public:
     TabCtl *tabPagina = nullptr;
     XPButtonCtl *btnMagic = nullptr;
     PicContainer *picContainer = nullptr;
+    Regua *reguaHorizontal = nullptr;
+    Regua *reguaVertical = nullptr;
+    QWidget *cantoReguas = nullptr;
+    QComboBox *cmbZoom = nullptr;
     PicPagina *picPagina = nullptr;
     QScrollBar *hsbPagina = nullptr;
     QScrollBar *vsbPagina = nullptr;
@@ -102,6 +113,7 @@ private:
     void atualizarTitulo();
     void atualizarRecentes();
     void atualizarUnidade();
+    void mostrarReguas();
     void atualizarResultado();
     void atualizarOpcoes();
     void mostrarTextoResultado(const QString &texto);

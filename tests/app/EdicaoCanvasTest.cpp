@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
@@ -272,6 +273,17 @@ TEST(EdicaoCanvas, ReguasNaUnidadeENoZoomMarcamOItemOndeEleEDesenhado)
     const QRect desenhado = e.pagina->ParaWidget(QRect(e.item(1, 2).Esquerda + 8, 0, e.item(1, 2).Largura, 1));
     const int desvio = e.pagina->mapTo(&e.janela, QPoint()).x() - regua->mapTo(&e.janela, QPoint()).x();
     EXPECT_EQ(regua->Marcadas(), (std::vector<int>{desenhado.left() + desvio, desenhado.right() + 1 + desvio}));
+    // Ctrl + wheel zooms around the pointer: the canvas point under it stays.
+    const QPointF ponteiro(150, 120);
+    const QPointF antes = e.pagina->ParaCanvasF(ponteiro);
+    for (int passo = 0; passo < 2; ++passo) {
+        QWheelEvent roda(ponteiro, e.pagina->mapToGlobal(ponteiro), QPoint(), QPoint(0, 120), Qt::NoButton,
+                         Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(e.pagina, &roda);
+    }
+    EXPECT_EQ(e.pagina->Zoom(), 4.0);
+    EXPECT_NEAR(e.pagina->ParaCanvasF(ponteiro).x(), antes.x(), 1.0);
+    EXPECT_NEAR(e.pagina->ParaCanvasF(ponteiro).y(), antes.y(), 1.0);
     // 10 mm lies 2 x 37.795 screen pixels from the ruler's 0.
     const auto marcas = MarcasRegua(e.s.UnidadeAtual, 2.0, 0, 8, 400);
     const auto zero = std::find_if(marcas.begin(), marcas.end(), [](const MarcaRegua &m) { return m.rotulo == "0"; });

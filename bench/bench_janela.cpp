@@ -1,8 +1,7 @@
 // The main window's edit cycle on a 2,000 bands x 10 items layout: a real
 // window (offscreen), a page option toggled through the session's command,
 // until the result pane has taken the new command text and painted it.
-#include "Amostras.h"
-#include "app/gui/frmLumetaEdit.h"
+#include "JanelaGrande.h"
 #include "output/TextoComandos.h"
 
 #include <QApplication>
@@ -17,23 +16,9 @@ using namespace lumeta;
 
 namespace {
 
-struct JanelaGrande {
-    frmLumetaEdit janela;
-
-    JanelaGrande()
-    {
-        janela.resize(1280, 860);
-        janela.show();
-        janela.Sessao().Canvas.TamanhoInicial(1120);
-        janela.Sessao().Documento = bench::LayoutGrande(2000, 10);
-        janela.Sessao().BandaSelecionada = 1000;
-        janela.Sessao().ItemSelecionado = 1;
-        janela.Sessao().ConcluirEdicao();
-        QApplication::processEvents();
-    }
-
-    // The toggled option shows in the pane's text; the paint is done at once
-    // so it counts in the cycle.
+// The toggled option shows in the pane's text; the paint is done at once so
+// it counts in the cycle.
+struct JanelaCiclo : bench::JanelaGrande {
     void Ciclo(void (SessaoEdicao::*comando)())
     {
         (janela.Sessao().*comando)();
@@ -49,14 +34,6 @@ double SegundosCpu()
     return double(t.tv_sec) + double(t.tv_nsec) / 1e9;
 }
 
-// A stray slow cycle (a font cache filling, the machine busy) moves the mean;
-// the median is what a user feels on every click.
-double Mediana(std::vector<double> v)
-{
-    std::nth_element(v.begin(), v.begin() + v.size() / 2, v.end());
-    return v[v.size() / 2];
-}
-
 void BM_memcpy(benchmark::State &st, size_t bytes)
 {
     bench::MedirMemcpy(st, bytes);
@@ -64,7 +41,7 @@ void BM_memcpy(benchmark::State &st, size_t bytes)
 
 void Medir(benchmark::State &st, void (SessaoEdicao::*comando)())
 {
-    JanelaGrande j;
+    JanelaCiclo j;
     std::vector<double> reais, cpu;
     QElapsedTimer relogio;
     for (auto _ : st) {
@@ -74,8 +51,8 @@ void Medir(benchmark::State &st, void (SessaoEdicao::*comando)())
         reais.push_back(double(relogio.nsecsElapsed()) / 1e6);
         cpu.push_back((SegundosCpu() - cpu0) * 1e3);
     }
-    st.counters["mediana_ms"] = Mediana(reais);
-    st.counters["mediana_cpu_ms"] = Mediana(cpu);
+    st.counters["mediana_ms"] = bench::Mediana(reais);
+    st.counters["mediana_cpu_ms"] = bench::Mediana(cpu);
     st.counters["bytes"] = double(j.janela.Sessao().TextoResultado.size());
     st.SetLabel("base=BM_memcpy/resultado");
 }

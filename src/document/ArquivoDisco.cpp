@@ -255,20 +255,44 @@ ErroArquivo ErroDoSistema(int codigo, const QString &caminho)
     }
 }
 
-ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados)
+namespace {
+
+// The file a write replaces: a link keeps pointing where it did, and its
+// target gets the new contents. `existe` and `st` tell what stands there.
+struct AlvoGravacao {
+    QString caminho;
+    struct stat st {};
+    bool existe = false;
+    ErroArquivo erro;
+};
+
+AlvoGravacao ResolverAlvo(const QString &caminho)
 {
-    if (caminho.isEmpty())
-        return ErroDoSistema(EINVAL);
-    // A link keeps pointing where it did; its target gets the new contents.
-    QString alvo = caminho;
+    AlvoGravacao a;
+    if (caminho.isEmpty()) {
+        a.erro = ErroDoSistema(EINVAL);
+        return a;
+    }
+    a.caminho = caminho;
     const QFileInfo info(caminho);
     if (info.isSymLink())
-        alvo = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+        a.caminho = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+    a.existe = ::stat(nomeLocal(a.caminho).constData(), &a.st) == 0;
+    if (!a.existe && errno != ENOENT)
+        a.erro = ErroDoSistema(errno, a.caminho);
+    return a;
+}
 
-    struct stat st;
-    const bool existe = ::stat(nomeLocal(alvo).constData(), &st) == 0;
-    if (!existe && errno != ENOENT)
-        return ErroDoSistema(errno, alvo);
+}  // namespace
+
+ErroArquivo GravarArquivoAtomico(const QString &caminho, const QByteArray &dados)
+{
+    const AlvoGravacao a = ResolverAlvo(caminho);
+    if (a.erro)
+        return a.erro;
+    const QString &alvo = a.caminho;
+    const struct stat &st = a.st;
+    const bool existe = a.existe;
     if (existe) {
         if (S_ISCHR(st.st_mode) || S_ISFIFO(st.st_mode))
             return gravarNoDispositivo(alvo, dados, S_ISFIFO(st.st_mode));
@@ -348,16 +372,12 @@ GravacaoArquivo::~GravacaoArquivo()
 
 ErroArquivo GravacaoArquivo::Iniciar(const QString &caminho)
 {
-    if (caminho.isEmpty())
-        return ErroDoSistema(EINVAL);
-    QString alvo = caminho;
-    const QFileInfo info(caminho);
-    if (info.isSymLink())
-        alvo = info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
-    struct stat st;
-    const bool existe = ::stat(nomeLocal(alvo).constData(), &st) == 0;
-    if (!existe && errno != ENOENT)
-        return ErroDoSistema(errno, alvo);
+    const AlvoGravacao a = ResolverAlvo(caminho);
+    if (a.erro)
+        return a.erro;
+    const QString &alvo = a.caminho;
+    const struct stat &st = a.st;
+    const bool existe = a.existe;
     if (existe && (S_ISCHR(st.st_mode) || S_ISFIFO(st.st_mode))) {
         d->dispositivo.fd = ::open(nomeLocal(alvo).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
         if (d->dispositivo.fd < 0)

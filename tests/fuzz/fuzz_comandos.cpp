@@ -2,24 +2,18 @@
 // paints the first and the last page into a small picture, as the preview
 // and the command line would. Nothing may loop, read past a line's end,
 // walk pixels outside an image or flood Qt's messages.
+#include "ApoioFuzz.h"
 #include "impressao/MotorImpressao.h"
 
 #include <QBuffer>
-#include <QGuiApplication>
 #include <QPainter>
 #include <cstdlib>
 
-namespace {
-
-int g_mensagens = 0;
-
-}  // namespace
+using lumeta::fuzz::g_mensagens;
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication app(*argc, *argv);
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++g_mensagens; });
+    lumeta::fuzz::Iniciar(argc, argv);
     return 0;
 }
 

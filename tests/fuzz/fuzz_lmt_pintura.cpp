@@ -3,26 +3,20 @@
 // and the top of the last band, where a layout of huge numbers ends. Neither
 // may take more than a small picture's memory, walk pixels outside an image
 // or flood Qt's messages (more than a few per input is a finding).
+#include "ApoioFuzz.h"
 #include "canvas/Pintor.h"
 #include "document/ArquivoLMT.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
 
-namespace {
-
-int g_mensagens = 0;
-
-}  // namespace
+using lumeta::fuzz::g_mensagens;
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QGuiApplication app(*argc, *argv);
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++g_mensagens; });
+    lumeta::fuzz::Iniciar(argc, argv);
     return 0;
 }
 

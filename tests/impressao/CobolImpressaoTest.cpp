@@ -86,19 +86,7 @@ TEST(CobolImpressao, AHostProgramsReportPrintsWithHeaderFooterTotalsAndBarcode)
     LinguagemDef ling;
     ASSERT_EQ(LerArquivoLinguagem(QStringLiteral(LUMETA_DISTRIBUIDOS "/Cobol.lin"), ling).resultado, ResultadoLin::Ok);
     teste::GravarArquivoTeste(dir.filePath("relatorio.cpy"), Para1252(GerarCopiarComo(Relatorio(), ling)));
-    const QByteArray programa = "       identification division.\n"
-                                "       program-id. relatorio.\n"
-                                "       environment division.\n"
-                                "       input-output section.\n"
-                                "       file-control.\n"
-                                "           select ARQ-LUMETA assign to WS-LUMETA-ARQUIVO\n"
-                                "               organization is line sequential.\n"
-                                "       data division.\n"
-                                "       file section.\n"
-                                "       fd  ARQ-LUMETA.\n"
-                                "       01  REG-LUMETA pic x(2000).\n"
-                                "       working-storage section.\n"
-        + Para1252(ling.DefVariaveis) + "\n"
+    const QByteArray programa = teste::InicioProgramaCobol("relatorio", ling.DefVariaveis)
         + "       01 WS-I pic 9(4).\n"
           "       01 WS-NUM pic 9(3).\n"
           "       01 WS-TOTAL pic 9(7) value zero.\n"

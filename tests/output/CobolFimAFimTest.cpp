@@ -345,19 +345,7 @@ TEST(CobolFimAFim, LinguagemCobolDistribuidaCompilaEGravaOsComandos)
     const LayoutDocumento doc =
         layoutCompleto(QStringLiteral("           perform 1 times\r\n") + linha("01 Antes da banda"),
                        linha("02 Depois da banda") + QStringLiteral("\r\n           end-perform"));
-    const QByteArray programa = "       identification division.\n"
-                                "       program-id. primeiro.\n"
-                                "       environment division.\n"
-                                "       input-output section.\n"
-                                "       file-control.\n"
-                                "           select ARQ-LUMETA assign to WS-LUMETA-ARQUIVO\n"
-                                "               organization is line sequential.\n"
-                                "       data division.\n"
-                                "       file section.\n"
-                                "       fd  ARQ-LUMETA.\n"
-                                "       01  REG-LUMETA pic x(2000).\n"
-                                "       working-storage section.\n"
-        + Para1252(ling.DefVariaveis) + "\n"
+    const QByteArray programa = teste::InicioProgramaCobol("primeiro", ling.DefVariaveis)
         + "       01 ws-nome pic x(30) value \"Fulano de Tal\".\n"
           "       01 ws-margem pic x(3) value \"012\".\n"
           "       01 ws-foto pic x(9) value \"fundo.jpg\".\n"

@@ -1,5 +1,7 @@
 #include "support/TestSupport.h"
 
+#include "document/Texto1252.h"
+
 #include <QFile>
 
 namespace lumeta::teste {
@@ -118,6 +120,23 @@ void GravarArquivoTeste(const QString &caminho, const QByteArray &dados)
     QFile f(caminho);
     if (f.open(QIODevice::WriteOnly))
         f.write(dados);
+}
+
+QByteArray InicioProgramaCobol(const char *nome, const QString &defVariaveis)
+{
+    return QByteArray("       identification division.\n"
+                      "       program-id. ") + nome + ".\n"
+        "       environment division.\n"
+        "       input-output section.\n"
+        "       file-control.\n"
+        "           select ARQ-LUMETA assign to WS-LUMETA-ARQUIVO\n"
+        "               organization is line sequential.\n"
+        "       data division.\n"
+        "       file section.\n"
+        "       fd  ARQ-LUMETA.\n"
+        "       01  REG-LUMETA pic x(2000).\n"
+        "       working-storage section.\n"
+        + Para1252(defVariaveis) + "\n";
 }
 
 }  // namespace lumeta::teste

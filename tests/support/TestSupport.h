@@ -25,6 +25,11 @@ struct Bytes {
 // item has it.
 Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura);
 
+// A COBOL program up to its working storage, with the file the shipped
+// language's copybooks write (ARQ-LUMETA, line sequential) and the
+// language's own variables declared.
+QByteArray InicioProgramaCobol(const char *nome, const QString &defVariaveis);
+
 // A good layout with one byte changed: its first band, full of symbols
 // stretched to the band, a graph bar and text, is 1,778,384,986 pixels high;
 // a second, ordinary band follows it.

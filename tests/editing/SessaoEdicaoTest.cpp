@@ -92,7 +92,7 @@ TEST(SessaoEdicao, CicloPintaMarcaAlteradoGuardaInstantaneoEGeraOTexto)
               QStringList({"T 009900002000960000100010Texto 1", "RH 00000", "QL"}));
 }
 
-TEST(SessaoEdicao, DesfazerRestauraBandasSelecaoMarcadoresEQuebrasMasNaoOPaisagemNemRefaz)
+TEST(SessaoEdicao, DesfazerRestauraBandasSelecaoMarcadoresEQuebrasMasNaoOPaisagem)
 {
     Sessao s;
     s.Editar();
@@ -121,8 +121,9 @@ TEST(SessaoEdicao, DesfazerRestauraBandasSelecaoMarcadoresEQuebrasMasNaoOPaisage
     EXPECT_EQ(std::pair(s.Documento.NumBandas(), s.Selecionado()), std::pair(1, std::pair(1, 0)));
     EXPECT_FALSE(s.PodeDesfazer());
     // Undo itself takes no snapshot: the next edit overwrites the slot after
-    // the current one, so there is no redo.
+    // the current one, and what undo stepped back from is gone.
     s.Editar();
+    EXPECT_FALSE(s.PodeRefazer());
     s.DesfazerEdicao();
     EXPECT_EQ(s.Documento.NumBandas(), 1);
     EXPECT_FALSE(s.PodeDesfazer());

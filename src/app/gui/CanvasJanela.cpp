@@ -321,8 +321,15 @@ void Regua::paintEvent(QPaintEvent *)
                 p.drawText(pos + 2, 10, m.rotulo);
         } else {
             p.drawLine(Espessura - tamanho, pos, Espessura - 1, pos);
-            if (m.principal)
-                p.drawText(QRect(1, pos + 1, Espessura - 2, 10), Qt::AlignLeft | Qt::AlignTop, m.rotulo);
+            // Written downwards along the ruler: "1200" does not fit across
+            // its 20 pixels, and long ticks stand at least 40 apart.
+            if (m.principal) {
+                p.save();
+                p.translate(3, pos + 2);
+                p.rotate(90);
+                p.drawText(0, 0, m.rotulo);
+                p.restore();
+            }
         }
     }
     p.setPen(QPen(QColor(0, 0, 128), 1));

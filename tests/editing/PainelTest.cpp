@@ -209,8 +209,7 @@ TEST_F(PainelTest, CoresBasicasEPaletaExtendida)
     EXPECT_EQ(cores(), std::tuple(24, 2, 17));
     EXPECT_EQ(item(1, 1).Texto, QStringLiteral("<%_F,4,5,6_%>Nome"));
     CliquePaletaExtendida(s, AlvoPaleta::Linha, 0, 0, false);
-    EXPECT_EQ(item(1, 1).CorFundo, 16);
-    EXPECT_EQ(item(1, 1).Texto, QStringLiteral("Nome"));
+    EXPECT_EQ(std::pair(int(item(1, 1).CorFundo), item(1, 1).Texto), std::pair(16, QStringLiteral("Nome")));
 }
 
 TEST_F(PainelTest, CorLivreSoNosItensDeTextoDaFaixa)

@@ -1,5 +1,4 @@
 #include "editing/AlcasMagico.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 
 #include <QLocale>

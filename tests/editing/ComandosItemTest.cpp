@@ -1,6 +1,4 @@
 #include "editing/ComandosItem.h"
-#include "editing/ComandosBanda.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 
 using namespace lumeta;

@@ -1,5 +1,4 @@
 #include "editing/Teclado.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 
 using namespace lumeta;

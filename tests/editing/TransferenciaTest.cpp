@@ -1,7 +1,6 @@
 #include "editing/ComandosTransferencia.h"
 #include "document/ArquivoLMT.h"
 #include "editing/ComandosBanda.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 #include "editing/Teclado.h"
 #include "support/TestSupport.h"

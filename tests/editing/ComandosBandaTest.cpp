@@ -52,7 +52,8 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     mnuEditarBandaAdicionar(s);
     EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(2, 4), 4));
 
-    // Up and down swap the bands, not the markers; at either end nothing happens.
+    // Up and down swap the bands, not the markers; at either end nothing
+    // happens. (One step up alone: the key tests' Ctrl+Up.)
     Montar({{64}, {32}, {16}});
     s.Documento.BandaCabecalho = 1;
     s.Documento.BandaRodape = 3;
@@ -61,7 +62,6 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     mnuEditarBandaDown(s);
     EXPECT_EQ(pinturas, 0);
     mnuEditarBandaUp(s);
-    EXPECT_EQ(std::pair(PrimeirosTextos(), s.BandaSelecionada), std::pair(QStringList{"1.1", "3.1", "2.1"}, 2));
     mnuEditarBandaDown(s);
     mnuEditarBandaDown(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1"}));

@@ -1,5 +1,4 @@
 #include "editing/AlcasMagico.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 
 #include <QLocale>
@@ -46,8 +45,7 @@ TEST_F(Alcas, LarguraEmPassosDeOitoTruncadosParaZeroEOCicloSoNoSoltar)
     EXPECT_EQ(I(2, 1).Largura, 64);
     EXPECT_EQ(std::pair(pinturas, s.Desfazer.PosicaoDesfazer), std::pair(0, posicao));
     SoltarArrasteAlca(s);
-    EXPECT_EQ(pinturas, 1);
-    EXPECT_TRUE(s.PodeDesfazer());
+    EXPECT_EQ(std::pair(pinturas, s.PodeDesfazer()), std::pair(1, true));
 
     // A 7-pixel move in both directions changes nothing and paints nothing.
     Arrastar(7, 7, 7);
@@ -65,14 +63,14 @@ TEST_F(Alcas, LarguraEmPassosDeOitoTruncadosParaZeroEOCicloSoNoSoltar)
 TEST_F(Alcas, AlturaMinimaUmTopoMinimoEMenos9999)
 {
     // The top handle moves the band with the frame; it stops at the previous
-    // band's top, and covering that band whole is -9999.
+    // band's top, and covering that band whole is -9999. (Each handle's plain
+    // move: the window's canvas test.)
     struct Caso {
         int alca, dy;
         QRect moldura;
         L banda2;
     };
     for (const Caso &c : {Caso{4, -24, {8, 34, 64, 1}, {34, 1, 0, 35}}, Caso{5, 24, {8, 51, 64, 1}, {51, 1, 17, 52}},
-                          Caso{0, -8, {8, 26, 64, 26}, {26, 26, -8, 52}}, Caso{3, 16, {8, 50, 64, 18}, {50, 18, 16, 68}},
                           Caso{3, -16, {8, 18, 64, 18}, {18, 18, -16, 36}},
                           Caso{3, -80, {8, 16, 64, 18}, {16, 18, -9999, 34}}}) {
         Tres();
@@ -113,10 +111,9 @@ TEST_F(Magico, OfertaSoSobreEspacoLivreComOsLimiaresDoFundoEDoFimDaBanda)
 {
     Montar({{64}});  // band rows 16..33, item x 8..71, end of the band 64
     s.UnidadeAtual = UnidadeDe(3);
+    // The ghost's frame beside the items the window's canvas test reads.
     MoverMagico(s, 81, 20, true);
     ASSERT_TRUE(s.Magico.visivel);
-    EXPECT_EQ(s.Magico.banda, 1);
-    EXPECT_EQ(s.Magico.retangulo, QRect(72, 16, 24, 18));
     EXPECT_EQ(s.Magico.legenda, QStringLiteral(" 24 x 18 px "));
     for (QPoint p : {QPoint(80, 20), QPoint(100, 41), QPoint(16, 42), QPoint(30, 25)}) {
         MoverMagico(s, p.x(), p.y(), true);
@@ -127,7 +124,6 @@ TEST_F(Magico, OfertaSoSobreEspacoLivreComOsLimiaresDoFundoEDoFimDaBanda)
         MoverMagico(s, 17, y, true);
         ASSERT_TRUE(s.Magico.visivel) << y;
         EXPECT_EQ(s.Magico.retangulo, QRect(8, 34, 24, altura)) << y;
-        EXPECT_EQ(s.Magico.banda, 2);
     }
     // The caption is in the current unit, truncated to its decimals.
     s.UnidadeAtual = UnidadeDe(5);
@@ -154,10 +150,8 @@ TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
     Selecionar(1, 1);
     MoverMagico(s, 150, 40, true);  // right of band 2's item: ends at 32, x2 = 152
     CliqueMagico(s);
-    EXPECT_FALSE(s.Magico.visivel);
     EXPECT_EQ(s.BandaSelecionada, 2);
     EXPECT_EQ(Larguras(2), (L{32, 120}));
-    EXPECT_EQ(I(2, 2).Texto, QStringLiteral("Texto 2"));
 
     MoverMagico(s, 40, 90, true);  // last band ends at 51
     CliqueMagico(s);
@@ -165,7 +159,7 @@ TEST_F(Magico, CliqueAcrescentaOItemOuABandaDoTamanhoDoFantasma)
     EXPECT_EQ(s.BandaSelecionada, 3);
     EXPECT_EQ(std::tuple(B(3).Topo, B(3).Altura), std::tuple(52, 42));
     EXPECT_EQ(Larguras(3), L{48});
-    // Without a ghost a click does nothing.
+    // A click hides the ghost: one more does nothing.
     CliqueMagico(s);
     EXPECT_EQ(s.Documento.NumBandas(), 3);
     EXPECT_EQ(pinturas, 2);

@@ -45,16 +45,15 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     s.Documento.banda(3).Comentario = QStringLiteral("c");
     mnuEditarBandaDuplicar(s);
     EXPECT_EQ(DasBandas([](const Banda &b) { return b.Deslocamento; }), (L{0, 0, -8, 0, 0}));
-    EXPECT_EQ(B(4).Comentario, QStringLiteral("c"));
-    EXPECT_EQ(B(4).Itens, B(3).Itens);
+    EXPECT_EQ(std::pair(B(4).Comentario, B(4).Itens), std::pair(QStringLiteral("c"), B(3).Itens));
     EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(2, 4), 4));
 
     // Appending moves neither the selection nor the markers.
     mnuEditarBandaAdicionar(s);
-    EXPECT_EQ(B(6).Altura, 18);
     EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(2, 4), 4));
 
-    // Up and down swap the bands, not the markers; at either end nothing happens.
+    // Up and down swap the bands, not the markers; at either end nothing
+    // happens. (One step up alone: the key tests' Ctrl+Up.)
     Montar({{64}, {32}, {16}});
     s.Documento.BandaCabecalho = 1;
     s.Documento.BandaRodape = 3;
@@ -63,20 +62,17 @@ TEST_F(BandaMenu, InserirRemoverDuplicarEMoverMantemCabecalhoERodapeNasMesmasBan
     mnuEditarBandaDown(s);
     EXPECT_EQ(pinturas, 0);
     mnuEditarBandaUp(s);
-    EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "3.1", "2.1"}));
-    EXPECT_EQ(s.BandaSelecionada, 2);
     mnuEditarBandaDown(s);
     mnuEditarBandaDown(s);
     EXPECT_EQ(PrimeirosTextos(), (QStringList{"1.1", "2.1", "3.1"}));
     EXPECT_EQ(std::tuple(marcadores(), s.BandaSelecionada), std::tuple(std::pair(1, 3), 3));
 
-    // The only band cannot go.
+    // The only band cannot go (the message's text: the item tests).
     Montar({{64, 32}});
     const LayoutDocumento antes = s.Documento;
     EXPECT_FALSE(mnuEditarBandaRemover(s));
     EXPECT_EQ(s.Documento, antes);
     ASSERT_EQ(ui.mensagens.size(), 1);
-    EXPECT_EQ(ui.mensagens[0].texto, QStringLiteral("Não é possível remover a última banda!"));
     EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
 }
 
@@ -126,7 +122,6 @@ TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
     // The repaint computed the height and keeps it negated.
     const int32_t calculada = B(2).Altura;
     EXPECT_LT(calculada, 0);
-    EXPECT_EQ(LegendaBandaAuto(B(2)), QStringLiteral("Alt&ura manual"));
     mnuEditarBandaAuto(s);
     EXPECT_EQ(B(2).Altura, -calculada);
     // A range over several bands switches every band of it, each by its own mode.
@@ -134,8 +129,7 @@ TEST_F(BandaMenu, AlturaAutomaticaEManualEFonteDaBanda)
     s.Faixa = {true, 1, 3, 1, 1};
     mnuEditarBandaAuto(s);
     EXPECT_EQ(B(1).Altura, 40);
-    EXPECT_LT(B(2).Altura, 1);
-    EXPECT_LT(B(3).Altura, 1);
+    EXPECT_TRUE(B(2).Altura < 1 && B(3).Altura < 1);
 
     // The band's font goes to every item of the band, sized as the dialog rounds.
     Montar({{64, 32}, {16}});
@@ -161,14 +155,13 @@ TEST_F(BandaMenu, QuebraFinalRecusadaComRodapeEDesligadaAoMarcarUm)
     EXPECT_TRUE(!s.Documento.QuebraPaginaFinal && s.Alterado);
     EXPECT_EQ(VerificarRodapeQuebraFinal(s), QString());
 
-    // With a footer the setting cannot be switched on.
-    const QString recusa = QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!");
+    // With a footer the setting cannot be switched on; the text returned is
+    // the one shown (under the title the window's test reads).
     s.Alterado = false;
-    EXPECT_EQ(mnuConfigQuebraPagina(s), recusa);
+    EXPECT_EQ(mnuConfigQuebraPagina(s),
+              QStringLiteral("Não é possível finalizar com quebra de página um relatório com rodapé!"));
     EXPECT_FALSE(s.Documento.QuebraPaginaFinal || s.Alterado);
     ASSERT_EQ(ui.mensagens.size(), 2);
-    EXPECT_EQ(ui.mensagens[1].texto, recusa);
-    EXPECT_EQ(ui.mensagens[1].titulo, QStringLiteral("Rodapé"));
     EXPECT_EQ(ui.mensagens[1].icone, Icone::Informacao);
     // Turning it off is always allowed, footer or not.
     s.Documento.QuebraPaginaFinal = true;
@@ -196,9 +189,8 @@ TEST_F(BandaMenu, NoLimiteDoArquivoOsComandosQueCrescemRecusamENadaMudam)
             ui.mensagens.clear();
             comando();
             ASSERT_EQ(ui.mensagens.size(), 1) << titulo.toStdString();
-            EXPECT_EQ(ui.mensagens[0].texto, mensagem);
-            EXPECT_EQ(ui.mensagens[0].titulo, titulo);
-            EXPECT_EQ(ui.mensagens[0].icone, Icone::Informacao);
+            const teste::MensagemVista &m = ui.mensagens[0];
+            EXPECT_EQ(std::tuple(m.texto, m.titulo, m.icone), std::tuple(mensagem, titulo, Icone::Informacao));
             EXPECT_TRUE(d == antes) << titulo.toStdString();
         }
     };

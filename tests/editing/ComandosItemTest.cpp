@@ -1,6 +1,4 @@
 #include "editing/ComandosItem.h"
-#include "editing/ComandosBanda.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 
 using namespace lumeta;
@@ -8,12 +6,12 @@ using ItemMenu = lumeta::teste::SessaoMontada;
 
 TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
 {
+    // Where the selection goes after an insert or an append, the paste and
+    // key tests read.
     Montar({{64, 32, 16}});
     Selecionar(1, 2);
     mnuEditarItemInserir(s);
-    EXPECT_EQ(s.ItemSelecionado, 3);
     mnuEditarItemAdicionar(s);
-    EXPECT_EQ(s.ItemSelecionado, 0);
     Selecionar(1, 5);
     s.Documento.banda(1).Itens[4].CorFundo = 5;
     mnuEditarItemDuplicar(s);
@@ -21,7 +19,8 @@ TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
     EXPECT_EQ(std::pair(I(1, 6).CorFundo, s.ItemSelecionado), std::pair(uint8_t(5), 6));
     EXPECT_EQ(pinturas, 3);
 
-    // At either end a move does nothing; in the middle the whole items swap.
+    // At either end a move does nothing; in the middle the whole items swap
+    // (to the right: the key tests).
     Montar({{64, 32, 16}});
     for (const auto &[item, mover] : {std::pair{1, &mnuEditarItemLeft}, {3, &mnuEditarItemRight},
                                       {0, mnuEditarItemLeft}, {0, mnuEditarItemRight}}) {
@@ -33,9 +32,6 @@ TEST_F(ItemMenu, InserirAcrescentarDuplicarEMoverNasPontasENoMeio)
     mnuEditarItemLeft(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.3", "1.2"}));
     EXPECT_EQ(std::pair(I(1, 2).Largura, s.ItemSelecionado), std::pair(16, 2));
-    mnuEditarItemRight(s);
-    EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.2", "1.3"}));
-    EXPECT_EQ(s.ItemSelecionado, 3);
 }
 
 TEST_F(ItemMenu, RemoverOUltimoItemPerguntaEOferecemRemoverABanda)
@@ -43,9 +39,7 @@ TEST_F(ItemMenu, RemoverOUltimoItemPerguntaEOferecemRemoverABanda)
     Montar({{64, 32, 16}, {40}});
     Selecionar(1, 3);
     mnuEditarItemRemover(s);
-    EXPECT_EQ(Textos(1), (QStringList{"1.1", "1.2"}));
-    EXPECT_EQ(s.ItemSelecionado, 2);
-    EXPECT_TRUE(ui.perguntas.isEmpty());
+    EXPECT_EQ(std::pair(Textos(1), s.ItemSelecionado), std::pair(QStringList{"1.1", "1.2"}, 2));
 
     // Any answer but No removes the band.
     Selecionar(2, 1);
@@ -53,12 +47,11 @@ TEST_F(ItemMenu, RemoverOUltimoItemPerguntaEOferecemRemoverABanda)
     mnuEditarItemRemover(s);
     EXPECT_EQ(s.Documento.NumBandas(), 2);
     mnuEditarItemRemover(s);
-    EXPECT_EQ(s.Documento.NumBandas(), 1);
-    EXPECT_EQ(Selecionado(), std::make_pair(1, 0));
-    ASSERT_EQ(ui.perguntas.size(), 2);
-    EXPECT_EQ(ui.perguntas[0].texto,
-              QStringLiteral("Este é o último item da banda!\n\nVocê deseja remover a banda selecionada?"));
-    EXPECT_EQ(ui.perguntas[0].icone, Icone::Pergunta);
+    EXPECT_EQ(std::pair(s.Documento.NumBandas(), Selecionado()), std::pair(1, std::pair(1, 0)));
+    ASSERT_EQ(ui.perguntas.size(), 2);   // none for the first removal
+    EXPECT_EQ(std::pair(ui.perguntas[0].texto, ui.perguntas[0].icone),
+              std::pair(QStringLiteral("Este é o último item da banda!\n\nVocê deseja remover a banda selecionada?"),
+                        Icone::Pergunta));
 
     // The last item of the last band: the band removal refuses.
     Montar({{64}});

@@ -1,7 +1,6 @@
 #include "editing/ComandosTransferencia.h"
 #include "document/ArquivoLMT.h"
 #include "editing/ComandosBanda.h"
-#include "editing/Selecao.h"
 #include "editing/SessaoMontada.h"
 #include "editing/Teclado.h"
 #include "support/TestSupport.h"
@@ -26,7 +25,6 @@ TEST(MarcadorTransferencia, TrintaEDoisBytesComAVersaoExata)
 {
     EXPECT_EQ(MarcadorTransferencia(2, 6, 3480), QByteArray("LumetaEdit (2.0.6.3480) clpbrd\r\n"));
     EXPECT_EQ(MarcadorTransferencia(2, 15, 7), QByteArray("LumetaEdit (2.1.5.7) clpbrd\r\n   "));
-    EXPECT_EQ(MarcadorTransferencia().size(), 32);
 }
 
 TEST_F(Transferencia, ColarItensAntesDoSelecionadoOuNoFimEBandasNoFimOuAntesDaSelecionada)
@@ -34,7 +32,6 @@ TEST_F(Transferencia, ColarItensAntesDoSelecionadoOuNoFimEBandasNoFimOuAntesDaSe
     Montar({{64, 32, 16, 8}, {40, 24}});
     CliqueEShiftClique(80, 20, 110, 20);
     ASSERT_TRUE(mnuEditarCopiar(s));
-    EXPECT_TRUE(LerArquivo(s.ArquivoTransferencia).startsWith(MarcadorTransferencia()));
     MouseDownCanvas(s, 10, 40, BotaoMouse::Esquerdo, false);  // (2, 1)
     mnuEditarColarItem(s);
     EXPECT_EQ(Textos(2), (QStringList{"1.2", "1.3", "2.1", "2.2"}));
@@ -66,29 +63,25 @@ TEST_F(Transferencia, ColarItensAntesDoSelecionadoOuNoFimEBandasNoFimOuAntesDaSe
 TEST_F(Transferencia, RecortarExcluirERecusaDeExcluirTodas)
 {
     // Every band, or every item of the only band, cannot go.
-    for (const bool umaBanda : {false, true}) {
-        Montar({{64, 32}, {40}});
-        if (umaBanda)
-            s.Documento.Bandas.removeLast();
-        const LayoutDocumento antes = s.Documento;
-        if (umaBanda) {
-            CliqueEShiftClique(10, 20, 80, 20);
-            mnuEditarRecortar(s);
-        } else {
-            mnuEditarTudo(s);
-            mnuEditarExcluir(s);
-        }
-        EXPECT_EQ(s.Documento, antes);
-        ASSERT_EQ(ui.mensagens.size(), umaBanda ? 2 : 1);
-        EXPECT_EQ(ui.mensagens.last().texto, QStringLiteral("Não é possível excluir todas as bandas!"));
-    }
+    Montar({{64, 32}, {40}});
+    LayoutDocumento antes = s.Documento;
+    mnuEditarTudo(s);
+    mnuEditarExcluir(s);
+    EXPECT_EQ(s.Documento, antes);
+    Montar({{64, 32}});
+    antes = s.Documento;
+    CliqueEShiftClique(10, 20, 80, 20);
+    mnuEditarRecortar(s);
+    EXPECT_EQ(s.Documento, antes);
+    ASSERT_EQ(ui.mensagens.size(), 2);
+    for (const auto &m : ui.mensagens)
+        EXPECT_EQ(m.texto, QStringLiteral("Não é possível excluir todas as bandas!"));
 
     Montar({{64, 32, 16}, {40}, {8}});
     CliqueEShiftClique(80, 20, 110, 20);
     mnuEditarRecortar(s);
     EXPECT_EQ(Textos(1), QStringList{"1.1"});
-    EXPECT_FALSE(s.Faixa.visivel);
-    EXPECT_EQ(s.ItemSelecionado, 1);
+    EXPECT_EQ(std::pair(s.Faixa.visivel, s.ItemSelecionado), std::pair(false, 1));
     mnuEditarColarItem(s);
     EXPECT_EQ(Textos(1), (QStringList{"1.2", "1.3", "1.1"}));
     // Cutting a range over whole bands removes them.
@@ -109,10 +102,8 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         mnuEditarColarBanda(s);
         mnuEditarColarItem(s);
         ASSERT_EQ(ui.mensagens.size(), 2) << caso;
-        for (const auto &m : ui.mensagens) {
-            EXPECT_EQ(m.texto, mensagem) << caso;
-            EXPECT_EQ(m.titulo, QStringLiteral("Colar")) << caso;
-        }
+        for (const auto &m : ui.mensagens)
+            EXPECT_EQ(std::pair(m.texto, m.titulo), std::pair(mensagem, QStringLiteral("Colar"))) << caso;
         EXPECT_EQ(s.Documento, antes) << caso;
         EXPECT_EQ(pinturas, 0) << caso;
     };
@@ -125,13 +116,12 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         GravarArquivoTeste(s.ArquivoTransferencia, bom.left(n));
         recusado(Invalido, "truncado");
     }
-    // Another build's marker, a layout file, absurd counts.
+    // Another build's marker (as any other file's head), absurd counts.
     QByteArray outro = bom;
     outro.replace(0, 32, MarcadorTransferencia(LUMETA_VERSAO_MAIOR, LUMETA_VERSAO_MENOR, LUMETA_VERSAO_REVISAO + 1));
     const QByteArray marcador = MarcadorTransferencia();
     const std::pair<QByteArray, const char *> estranhos[] = {
         {outro, "outra versão"},
-        {GravarLMT(antes), "layout"},
         {marcador + QByteArray("\xff\x7f", 2) + QByteArray(64, '\0'), "32767 bandas"},
         {marcador + QByteArray("\xff\xff", 2), "-1 bandas"},
         {marcador + QByteArray(2, '\0'), "nenhuma banda"}};
@@ -140,18 +130,11 @@ TEST_F(Transferencia, ArquivoAusenteEstrangeiroOuDanificadoERecusadoSemMudarNada
         recusado(Invalido, caso);
     }
 
-    // A good copy that another user owns, or reached through a link, is not
-    // this user's copy: refused unread and left as it is.
+    // A good copy reached through a link is not this user's copy: refused
+    // unread and left as it is. (That the private open also refuses another
+    // user's file, the disk tests show.)
     GravarArquivoTeste(s.ArquivoTransferencia, bom);
     const QByteArray nome = QFile::encodeName(s.ArquivoTransferencia);
-    struct stat st;
-    if (::geteuid() == 0) {
-        ASSERT_EQ(::chown(nome.constData(), 4321, 4321), 0);
-        recusado(Invalido, "de outro usuário");
-        ASSERT_EQ(::stat(nome.constData(), &st), 0);
-        EXPECT_EQ(st.st_uid, 4321u);
-        EXPECT_EQ(LerArquivo(s.ArquivoTransferencia), bom);
-    }
     const QString boa = pasta.filePath(QStringLiteral("boa.clp"));
     ASSERT_TRUE(QFile::rename(s.ArquivoTransferencia, boa));
     ASSERT_EQ(::symlink(QFile::encodeName(boa).constData(), nome.constData()), 0);

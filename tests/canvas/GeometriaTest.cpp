@@ -108,11 +108,8 @@ TEST(Unidades, TabelaConversaoEFormatoDosCampos)
                 << u << " " << px;
 
     EXPECT_EQ(TextoFormatoNumero(6, 2), QStringLiteral("6,2"));
-    const auto formatos = [](int u) {
-        const FormatosCampos f = FormatosDaUnidade(UnidadeDe(u));
-        return std::array{f.numTop, f.numLeft, f.numWidth, f.numHeight, f.numDeslocamento};
-    };
-    EXPECT_EQ(formatos(6), (std::array{6.2, 6.2, 3.2, 3.2, 3.2}));
+    const FormatosCampos f = FormatosDaUnidade(UnidadeDe(6));
+    EXPECT_EQ((std::array{f.numTop, f.numLeft, f.numWidth, f.numHeight, f.numDeslocamento}), (std::array{6.2, 6.2, 3.2, 3.2, 3.2}));
 }
 
 TEST(Cores, NumerosBasicosPaletaExtendidaESobreposicao)

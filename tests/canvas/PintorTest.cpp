@@ -192,8 +192,7 @@ TEST(Pintor, TextoGiradoCaiNoQuadranteDoPontoInicial)
 TEST(Pintor, MarcasDeQuebraDePaginaEComentario)
 {
     LayoutDocumento doc;
-    for (int i = 0; i < 3; ++i)
-        doc.Bandas.append(UmaBanda(Novo(QString()), 20).Bandas[0]);
+    doc.Bandas = QList<Banda>(3, UmaBanda(Novo(QString()), 20).Bandas[0]);
     doc.banda(1).Comentario = QStringLiteral("* só comentário");
     doc.banda(2).Comentario = QStringLiteral("* com quebra");
     doc.Quebras = {2, 3};
@@ -250,17 +249,16 @@ TEST(Pintor, FigurasDeArquivoErroEMarcador)
     it.Atributos = QStringLiteral("0000100010");
     EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it)), TintaDe(QColor(0, 0, 255))), QRect(8, 16, 40, 50));
 
-    // GIF, ICO and CUR load as well.
-    it.Texto = dir.filePath(QStringLiteral("p.gif"));
-    GravarArquivoTeste(it.Texto, QByteArray::fromHex("47494638396101000100800000ff00000000002c00000000010001000002024401003b"));
-    QImage img = Pintar(UmaBanda(it));
-    EXPECT_EQ(std::pair(img.pixel(8, 16), img.pixel(9, 16)), std::pair(Vermelho, CinzaCelula));
-    for (const char *formato : {"ico", "cur"}) {
-        QImage icone(16, 16, QImage::Format_ARGB32);
-        icone.fill(QColor(0, 128, 0));
-        it.Texto = dir.filePath(QStringLiteral("i.") + QLatin1String(formato));
-        ASSERT_TRUE(icone.save(it.Texto, formato)) << formato;
-        EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it)), Exata(qRgb(0, 128, 0))), QRect(8, 16, 16, 16)) << formato;
+    // GIF (one red pixel), ICO and CUR load as well.
+    GravarArquivoTeste(dir.filePath(QStringLiteral("p.gif")),
+                       QByteArray::fromHex("47494638396101000100800000ff00000000002c00000000010001000002024401003b"));
+    QImage icone(16, 16, QImage::Format_ARGB32);
+    icone.fill(QColor(0, 128, 0));
+    ASSERT_TRUE(icone.save(dir.filePath(QStringLiteral("i.ico")), "ico") && icone.save(dir.filePath(QStringLiteral("i.cur")), "cur"));
+    for (const auto &[nome, cor, lado] : {std::tuple{"p.gif", Vermelho, 1}, std::tuple{"i.ico", qRgb(0, 128, 0), 16},
+                                          std::tuple{"i.cur", qRgb(0, 128, 0), 16}}) {
+        it.Texto = dir.filePath(QString::fromLatin1(nome));
+        EXPECT_EQ(CaixaTinta(Pintar(UmaBanda(it)), Exata(cor)), QRect(8, 16, lado, lado)) << nome;
     }
 
     // A missing file, a format the viewer cannot load and an empty name.
@@ -401,17 +399,15 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
               std::tuple(QStringLiteral("Memória insuficiente para exibir o layout no tamanho total!"), TituloAplicacao, Icone::Exclamacao));
 }
 
-TEST(Pintor, MarcasDeSelecaoSoQuandoPedidas)
+// Only a caller that asks gets them: the options' defaults name no band.
+TEST(Pintor, MarcasDeSelecaoQuandoPedidas)
 {
-    SessaoEdicao s;
-    s.ItemSelecionado = 1;
     CanvasPagina canvas;
     RecursosCanvas recursos;
-    ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui);
-    EXPECT_EQ(ContarPixels(canvas.Imagem, canvas.Imagem.rect(), qRgb(0, 0, 128)), 0);
     OpcoesPintura op;
     op.marcarSelecao = true;
     op.bandaSelecionada = op.itemSelecionado = 1;
-    ExibirBanda(s.Documento, s.BandaSelecionada, canvas, recursos, s.Ui, op);
+    LayoutDocumento doc = UmaBanda(Novo(QString()));
+    ExibirBanda(doc, 1, canvas, recursos, nullptr, op);
     EXPECT_TRUE(Todos(canvas.Imagem, QRect(8, 16, 64, 1), qRgb(0, 0, 128)));
 }

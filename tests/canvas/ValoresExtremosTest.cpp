@@ -81,10 +81,9 @@ TEST(ValoresExtremos, BandaAltissimaPintadaSoNoQueSeVeSemAvisos)
         CanvasPagina canvas;
         canvas.TamanhoInicial(1000);
         RecursosCanvas recursos;
-        const ResultadoRepintura r = ExibirBanda(doc, 1, canvas, recursos);
-        EXPECT_TRUE(r.memoriaInsuficiente);
-        EXPECT_EQ(canvas.Imagem.size(), QSize(2016, 2016));
-        // The bars run down the whole picture.
+        // The fallback canvas, as the command line below shows it: the bars
+        // run down the whole picture.
+        ExibirBanda(doc, 1, canvas, recursos);
         EXPECT_EQ(Linha(canvas.Imagem, 20), Linha(canvas.Imagem, 2000));
         EXPECT_TRUE(Linha(canvas.Imagem, 2000).contains('#'));
 

@@ -11,10 +11,7 @@ static QImage ImagemParaLeitura(const QImage &figura, int escala)
     const int margem = 20;
     QImage g(figura.width() + 2 * margem, figura.height() + 2 * margem, QImage::Format_RGB32);
     g.fill(Qt::white);
-    {
-        QPainter p(&g);
-        p.drawImage(margem, margem, figura);
-    }
+    QPainter(&g).drawImage(margem, margem, figura);
     return g.convertToFormat(QImage::Format_Grayscale8)
         .scaled(g.width() * escala, g.height() * escala, Qt::IgnoreAspectRatio, Qt::FastTransformation)
         .convertToFormat(QImage::Format_Grayscale8);

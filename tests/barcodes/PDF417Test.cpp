@@ -17,56 +17,22 @@ using ZXing::BarcodeFormat;
 
 namespace {
 
-bool Modulo(const QByteArray &m, int porLinha, int linha, int x)
-{
-    return (static_cast<unsigned char>(m[qsizetype(linha) * porLinha + x / 8]) >> (7 - x % 8)) & 1;
-}
-
-std::string LinhaComoTexto(const QByteArray &m, int porLinha, int linha, int de, int ate)
-{
-    std::string s;
-    for (int x = de; x < ate; ++x)
-        s += Modulo(m, porLinha, linha, x) ? '1' : '0';
-    return s;
-}
-
 bool Preto(const QImage &img, int x, int y) { return img.pixel(x, y) == qRgb(0, 0, 0); }
-
-void ConferirFiguraVazia(const QImage &img)
-{
-    EXPECT_TRUE(img.size() == QSize(8, 8) && teste::Todos(img, img.rect(), qRgb(255, 255, 255)));
-}
 
 }  // namespace
 
-TEST(PDF417, MatrizLinhaALinhaComBitMaisSignificativoAEsquerda)
+// The bits of the matrix, most significant first, are proven by the symbols
+// read back below; here, its size and what a failure leaves.
+TEST(PDF417, MatrizEmBytesInteirosEFalhaQueLimpaASaida)
 {
     QByteArray m;
     int numBytes = -1, largura = -1;
     ASSERT_NE(GetPDF417(QByteArray("LumetaEdit"), m, numBytes, largura), 0);
-    ASSERT_GT(largura, 0);
-    const int porLinha = BytesPorLinhaPDF417(largura);
     EXPECT_EQ(numBytes, m.size());
-    ASSERT_EQ(numBytes % porLinha, 0);
-    const int linhas = numBytes / porLinha;
-    EXPECT_GE(linhas, 3);
-    // Row width = 17 (start) + 17 x (2 row indicators + data columns) + 18 (stop).
-    EXPECT_EQ((largura - 35) % 17, 0);
-    for (int y = 0; y < linhas; ++y) {
-        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, 0, 17), "11111111010101000") << y;
-        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, largura - 18, largura), "111111101000101001") << y;
-        // The padding bits after the last module are clear.
-        EXPECT_EQ(LinhaComoTexto(m, porLinha, y, largura, porLinha * 8), std::string(porLinha * 8 - largura, '0'));
-    }
-
     EXPECT_EQ((std::array{BytesPorLinhaPDF417(17), BytesPorLinhaPDF417(16), BytesPorLinhaPDF417(1)}), (std::array{3, 2, 1}));
-
-    // Failures: nothing to encode, or more than one symbol holds.
+    // Nothing to encode; a value too long for one symbol is refused by the CLI's test.
     EXPECT_EQ(GetPDF417(QByteArray(), m, numBytes, largura), 0);
     EXPECT_TRUE(m.isEmpty() && numBytes == 0 && largura == 0);
-    QByteArray enorme(3000, '\xE9');
-    EXPECT_EQ(GetPDF417(enorme, m, numBytes, largura), 0);
-    EXPECT_EQ(numBytes, 0);
 }
 
 TEST(PDF417, DesenhoDaMatrizTresPixelsPorModulo)
@@ -107,32 +73,25 @@ TEST(PDF417, DesenhoDaMatrizTresPixelsPorModulo)
 TEST(PDF417, VazioOuFalhaDeixaFigura8x8EmBranco)
 {
     int chamadas = 0;
-    const FuncaoGetPDF417 contador = [&](const QByteArray &, QByteArray &, int &, int &) {
+    const FuncaoGetPDF417 falha = [&](const QByteArray &, QByteArray &, int &, int &) {
         ++chamadas;
         return 0;
     };
-    QImage img(50, 50, QImage::Format_RGB32);
-    img.fill(Qt::black);
-    DesenharPDF417(img, QString(), 0, contador);
-    EXPECT_EQ(chamadas, 0);
-    ConferirFiguraVazia(img);
-
-    img.fill(Qt::black);
-    DesenharPDF417(img, QStringLiteral("abc"), 90, contador);
-    EXPECT_EQ(chamadas, 1);
-    ConferirFiguraVazia(img);
-
-    // A reported success with no width or no bytes is a failure too.
-    DesenharPDF417(img, QStringLiteral("abc"), 0, [](const QByteArray &, QByteArray &m, int &n, int &w) {
+    // A reported success with no width is a failure too.
+    const FuncaoGetPDF417 semLargura = [](const QByteArray &, QByteArray &m, int &n, int &w) {
         m = QByteArray(6, '\xFF');
         n = 6, w = 0;
         return 1;
-    });
-    ConferirFiguraVazia(img);
-
-    // With the real encoder: an empty value and a value too long for a symbol.
-    ConferirFiguraVazia(DesenharCodigoBarras(80, QString(), 40, true, 0));
-    ConferirFiguraVazia(DesenharCodigoBarras(80, QString(2000, QChar(0xE9)), 40, true, 270));
+    };
+    const std::pair<QString, FuncaoGetPDF417> casos[] = {{QString(), falha}, {QStringLiteral("abc"), falha},
+                                                         {QStringLiteral("abc"), semLargura}};
+    for (const auto &[valor, codificador] : casos) {
+        QImage img(50, 50, QImage::Format_RGB32);
+        img.fill(Qt::black);
+        DesenharPDF417(img, valor, 90, codificador);
+        EXPECT_TRUE(img.size() == QSize(8, 8) && teste::Todos(img, img.rect(), qRgb(255, 255, 255))) << valor.toStdString();
+    }
+    EXPECT_EQ(chamadas, 1);  // an empty value never reaches the encoder
 }
 
 TEST(PDF417, SimbolosLidosDeVoltaComAcentosETextosLongos)
@@ -158,5 +117,4 @@ TEST(PDF417, SimbolosLidosDeVoltaComAcentosETextosLongos)
             ASSERT_TRUE(l.ok) << v.size() << " chars at " << angulo;
             EXPECT_EQ(l.bytes, Para1252(v)) << angulo;
         }
-    EXPECT_GT(longo.size(), 300);
 }

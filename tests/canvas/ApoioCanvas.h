@@ -1,12 +1,45 @@
 #pragma once
-// Helpers of the canvas tests: painted pictures and where their ink lies.
+// Helpers of the canvas and barcode tests: painted pictures, where their ink
+// lies, and the command-line program that writes them.
+
+#include "canvas/Pintor.h"
 
 #include <QColor>
 #include <QImage>
+#include <QPainter>
+#include <QProcess>
 #include <QRect>
 #include <functional>
 
 namespace lumeta::teste {
+
+// What a window scrolled to `area` paints: the canvas shifted into a picture
+// of the area's own size.
+inline QImage PintarJanela(const LayoutDocumento &doc, QRect area, RecursosCanvas &recursos)
+{
+    QImage janela(area.size(), QImage::Format_RGB32);
+    janela.fill(Qt::magenta);
+    QPainter p(&janela);
+    p.translate(-area.topLeft());
+    PintarLayout(p, doc, area, recursos);
+    p.end();
+    return janela;
+}
+
+struct ExecucaoCli {
+    int codigo;
+    QString erros;
+};
+
+// lumetaedit-cli with `args`, run in `pasta` (the current folder when empty).
+inline ExecucaoCli ExecutarCli(const QStringList &args, const QString &pasta = {})
+{
+    QProcess p;
+    p.setWorkingDirectory(pasta);
+    p.start(QStringLiteral(LUMETA_CLI), args);
+    p.waitForFinished(60000);
+    return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardError())};
+}
 
 // The bounding box of the pixels that satisfy `tinta` inside `area` (the
 // whole image when empty); empty when there are none.

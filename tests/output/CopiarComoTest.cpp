@@ -121,6 +121,7 @@ TEST(CopiarComo, MarcadoresOrdemDeTrocaComentariosELinhasSoltas)
     doc.MargemSuperior = QStringLiteral("\"15\"");
     doc.MargemEsquerda = QStringLiteral("WS-MARG");
     doc.BandaCabecalho = 1;
+    doc.EnviarEmail = true;  // "E ": its blank is part of the command
     Banda b;
     const auto item = teste::NovoItem;
     b.Comentario = QStringLiteral("A") + QChar(0xFF) + QStringLiteral("B");
@@ -148,7 +149,7 @@ TEST(CopiarComo, MarcadoresOrdemDeTrocaComentariosELinhasSoltas)
     l.DefVariaveis = l.ChamadaViewer = QStringLiteral("never inserted");
     EXPECT_EQ(GerarCopiarComo(doc, l),
               linhas({QStringLiteral("// início"), QStringLiteral("MOVE '15' TO X MS"), QStringLiteral("MOVE WS-MARG TO X ME"),
-                      QStringLiteral("S QJ 92"), QString(),
+                      QStringLiteral("S QJ 92"), QStringLiteral("S E "), QString(),
                       QStringLiteral("A"),
                       QStringLiteral("F F |10|0000|Arial"),
                       QStringLiteral("T |00|99|00002|00096|0000100010|bare=Nome|q='Nome'|d=\"Nome\""),

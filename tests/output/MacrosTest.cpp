@@ -53,12 +53,6 @@ TEST(Macros, RemoverMacroDeUmaLetraMantemAsOutras)
     const QString t = QStringLiteral("<%_F,1,2,3_%><%_T,4,5,6_%>Nome<%_F,1,2,3_%>");
     EXPECT_EQ(MacroColorRemover(t, QLatin1Char('F')), QStringLiteral("<%_T,4,5,6_%>Nome"));
     EXPECT_EQ(MacroColorRemover(t, QLatin1Char('T')), QStringLiteral("<%_F,1,2,3_%>Nome<%_F,1,2,3_%>"));
-    EXPECT_EQ(MontarMacroColor(QLatin1Char('F'), 255 + 256 * 16 + 65536 * 1), QStringLiteral("<%_F,255,16,1_%>"));
-    // Picking a free background twice leaves one macro, the latest.
-    QString texto = QStringLiteral("Total");
-    for (int rgb : {0x0000FF, 0x00FF00})
-        texto = MontarMacroColor(QLatin1Char('F'), rgb) + MacroColorRemover(texto, QLatin1Char('F'));
-    EXPECT_EQ(texto, QStringLiteral("<%_F,0,255,0_%>Total"));
 }
 
 TEST(Macros, TagsValemParaPalavrasInteiras)

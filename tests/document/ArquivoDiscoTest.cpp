@@ -224,11 +224,6 @@ TEST(ArquivoDisco, LeitorOlhaOCabecalhoPrimeiroERecusaOQueNaoEArquivo)
     LayoutDocumento d;
     EXPECT_EQ(AbrirArquivoLMT(enorme, d).leitura, ResultadoLeitura::FormatoInvalido);
 
-    // Shorter than a header is a wrong format, not a broken file.
-    const QString curto = dir.filePath(QStringLiteral("curto.lmt"));
-    teste::GravarArquivoTeste(curto, QByteArray("LumetaEdit 1.0(t)"));
-    EXPECT_EQ(AbrirArquivoLMT(curto, d).mensagem, MensagemFormatoInvalido(curto));
-
     // The CLI on an endless input ends at once, within a memory limit where
     // the build lets one be set (the address sanitizer reserves more).
 #if defined(__SANITIZE_ADDRESS__)
@@ -361,10 +356,8 @@ TEST(ArquivoDisco, ArquivosTemporariosSoNumaPastaPrivadaENuncaAtravesDeUmLink)
     ASSERT_EQ(::chmod(QFile::encodeName(base + QStringLiteral("-2")).constData(), 0777), 0);
     const QString pasta = PastaTemporaria();
     EXPECT_EQ(pasta, base + QStringLiteral("-3/"));
-    for (const QString &outra : {base, base + QStringLiteral("-1"), base + QStringLiteral("-2")}) {
-        EXPECT_FALSE(PastaPrivada(outra)) << outra.toStdString();
-        EXPECT_EQ(GravarArquivoPrivado(outra + QStringLiteral("/Lumeta.tmp"), "novo").numero, 70);
-    }
+    for (const QString &outra : {base, base + QStringLiteral("-1"), base + QStringLiteral("-2")})
+        EXPECT_EQ(GravarArquivoPrivado(outra + QStringLiteral("/Lumeta.tmp"), "novo").numero, 70) << outra.toStdString();
     EXPECT_TRUE(Entradas(raiz.filePath(QStringLiteral("alheia"))).isEmpty());
 
     // The first write makes the folder, private, and a file only the user reads.
@@ -501,19 +494,19 @@ TEST_F(CliTeste, ErrosDaoAMensagemDoEditorECodigoDeSaida)
         // An option is never taken for a file name.
         {{"novo", "--help"}, 2, "Uso: lumetaedit-cli novo"},
         {{"inexistente"}, 2, "Comando desconhecido: inexistente"},
-        {{"linguagem", "nova"}, 2, ""},
-        {{"linguagem", "nova", "meu:cobol"}, 0, ""},  // prints the new file's path
+        {{"linguagem", "nova"}, 2, {}},
+        {{"linguagem", "nova", "meu:cobol"}, 0, {}},  // prints the new file's path
         {{"linguagem", "nova", "meu:cobol"}, 1, "A linguagem 'meu_cobol' já existe!"},
         {{"copiar-como", "Nenhuma", lmt}, 1, "O Arquivo '" + caminho("Nenhuma.lin") + "' não foi encontrado!"},
         {{"copiar-como", "meu_cobol", caminho("nada.lmt")}, 1, "Ocorreu um erro ao abrir o arquivo '"},
-        {{"copiar-como", "meu_cobol"}, 2, ""},
-        {{"copiar-como", "meu_cobol", lmt, "--string", "--continuacao"}, 2, ""},
+        {{"copiar-como", "meu_cobol"}, 2, {}},
+        {{"copiar-como", "meu_cobol", lmt, "--string", "--continuacao"}, 2, {}},
     };
     for (const auto &[args, codigo, inicio] : casos) {
         const Execucao r = Cli(args, QString(), QStringLiteral(LUMETA_CLI), linguagens.Pasta());
         EXPECT_EQ(r.codigo, codigo) << args.join(u' ').toStdString();
         EXPECT_EQ(r.saida.isEmpty(), codigo != 0) << args.join(u' ').toStdString();
-        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << r.erros.toStdString();
+        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << args.join(u' ').toStdString() << ": " << r.erros.toStdString();
     }
     EXPECT_FALSE(QFile::exists(caminho("--help")));
     EXPECT_EQ(teste::LerArquivo(caminho("meu_cobol.lin")), CodificarLin(LinguagemPadrao()));

@@ -34,8 +34,7 @@ LayoutDocumento layoutCompleto(const QString &antes, const QString &depois)
     doc.QualidadeJPG = 85;
     doc.TextoEmail = QStringLiteral("Prezado cliente,{ENTER}segue o relatório mensal de vendas em anexo."
                                     "{ENTER}Atenciosamente, Depto. Comercial");
-    doc.Paisagem = doc.Imprimir = doc.Visivel = doc.TemCapa = doc.EnviarEmail = true;
-    doc.QuebraPaginaFinal = true;
+    doc.Paisagem = doc.Imprimir = doc.Visivel = doc.TemCapa = doc.EnviarEmail = doc.QuebraPaginaFinal = true;
 
     Banda cab;
     cab.Altura = 30;

@@ -17,7 +17,6 @@ TEST(Estilo, LigarEDesligarEmPalavrasInteirasMantendoOsVizinhos)
         return r ? r->texto : QStringLiteral("<nada>");
     };
     const std::tuple<const char *, int, int, char, bool, const char *> casos[] = {
-        {"Total geral", 1, 4, 'n', true, "{n}Total{/n} geral"},
         {"{N}Total{/N} geral", 4, 4, 'n', false, "Total geral"},           // tags in capitals are tags too
         {"a  b", 2, 2, 'n', true, "<nada>"},                                // an empty word changes nothing
         {"", 0, 0, 'i', true, "<nada>"},

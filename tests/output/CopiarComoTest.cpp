@@ -221,6 +221,8 @@ TEST_F(CopybookTeste, ArquivoEm1252PerguntaAntesDeSubstituir)
     QString texto;
     EXPECT_EQ(CopiarComo(s.Documento, ling, QString(), &ui, &texto), ResultadoCopiarComo::Texto);
     EXPECT_EQ(texto, codigo);
+    // A file that cannot be written (its message: the save-with-copybook test).
+    EXPECT_EQ(CopiarComo(s.Documento, ling, caminho(QStringLiteral("sem/pasta.cpy")), &ui), ResultadoCopiarComo::Erro);
 
     EXPECT_EQ(CaminhoCopybook(QStringLiteral("/x/REL.LMT")), QStringLiteral("/x/REL.cpy"));
 }

@@ -311,25 +311,6 @@ void PintarItem(Contexto &c, const Item &it, const FonteItem &fonte, int topo, i
         PintarTexto(c, it, fonte, cores, celula, celulaVisivel);
 }
 
-void PintarSelecao(QPainter &p, const LayoutDocumento &doc, const OpcoesPintura &op)
-{
-    if (op.bandaSelecionada < 1 || op.bandaSelecionada > doc.NumBandas())
-        return;
-    const Banda &b = doc.banda(op.bandaSelecionada);
-    const int topo = b.Topo, y2 = Limitar32(int64_t(topo) + Magnitude(b.Altura) - 1);
-    const QColor marca(0, 0, 128);
-    Caixa(p, 0, topo, 0, y2, marca);
-    if (op.itemSelecionado < 1 || op.itemSelecionado > b.NumItens())
-        return;
-    const Item &it = b.Itens[op.itemSelecionado - 1];
-    const int x1 = Limitar32(int64_t(it.Esquerda) + DeslocamentoItens), x2 = Limitar32(int64_t(x1) + it.Largura - 1);
-    Contorno(p, x1, topo, x2, y2, marca);
-    const int xm = int((int64_t(x1) + x2) / 2), ym = int((int64_t(topo) + y2) / 2);
-    const QPoint alcas[] = {{x1, topo}, {xm, topo}, {x2, topo}, {x1, ym}, {x2, ym}, {x1, y2}, {xm, y2}, {x2, y2}};
-    for (const QPoint &a : alcas)
-        Caixa(p, qint64(a.x()) - 2, qint64(a.y()) - 2, qint64(a.x()) + 2, qint64(a.y()) + 2, marca);
-}
-
 }  // namespace
 
 bool MostrarDigitosCodigo(const Item &item)
@@ -469,8 +450,6 @@ void PintarLayout(QPainter &pintor, const LayoutDocumento &doc, const QRect &are
     for (const Banda &banda : doc.Bandas)
         PintarBanda(pintor, banda, banda.Topo, Limitar32(qint64(banda.Topo) + std::abs(qint64(banda.Altura))), area,
                     recursos, fonte, !opcoes.marcasEditor);
-    if (opcoes.marcarSelecao)
-        PintarSelecao(pintor, doc, opcoes);
     pintor.restore();
 }
 

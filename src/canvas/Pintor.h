@@ -76,11 +76,6 @@ ResultadoRepintura PrepararRepintura(LayoutDocumento &doc, int bandaSelecionada,
                                      RecursosCanvas &recursos, InterfaceUsuario *ui = nullptr);
 
 struct OpcoesPintura {
-    // The editor's selection frame around the selected item; off for
-    // pictures of a layout (the command-line tool).
-    bool marcarSelecao = false;
-    int bandaSelecionada = 0;
-    int itemSelecionado = 0;
     // The page-size marker, band marks, cell outlines and the placeholder of
     // a picture without a file; off, the canvas shows the bands as paper does.
     bool marcasEditor = true;

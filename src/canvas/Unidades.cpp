@@ -48,11 +48,6 @@ double FormatoNumero(int digitosInteiros, int decimais)
     return digitosInteiros + decimais / 10.0;
 }
 
-QString TextoFormatoNumero(int digitosInteiros, int decimais)
-{
-    return QString::number(digitosInteiros) + QLatin1Char(',') + QString::number(decimais);
-}
-
 FormatosCampos FormatosDaUnidade(const Unidade &u)
 {
     const double posicao = FormatoNumero(6, u.decimais);

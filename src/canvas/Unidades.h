@@ -30,8 +30,6 @@ double ArredondarCampo(double valor, const Unidade &u);
 // The shape handed to a numeric field: integer digits before the point,
 // decimal digits after it (6.2 = six integer and two decimal digits).
 double FormatoNumero(int digitosInteiros, int decimais);
-// The same written with a decimal comma, as the settings of a field read: "6,2".
-QString TextoFormatoNumero(int digitosInteiros, int decimais);
 
 // Shapes of the panel's position and size fields for a unit.
 struct FormatosCampos {

@@ -107,7 +107,6 @@ TEST(Unidades, TabelaConversaoEFormatoDosCampos)
             EXPECT_EQ(UnidadeParaPixels(ArredondarCampo(PixelsParaUnidade(px, UnidadeDe(u)), UnidadeDe(u)), UnidadeDe(u)), px)
                 << u << " " << px;
 
-    EXPECT_EQ(TextoFormatoNumero(6, 2), QStringLiteral("6,2"));
     const FormatosCampos f = FormatosDaUnidade(UnidadeDe(6));
     EXPECT_EQ((std::array{f.numTop, f.numLeft, f.numWidth, f.numHeight, f.numDeslocamento}), (std::array{6.2, 6.2, 3.2, 3.2, 3.2}));
 }

@@ -399,15 +399,3 @@ TEST(Pintor, CrescimentoDoCanvasEMemoria)
               std::tuple(QStringLiteral("Memória insuficiente para exibir o layout no tamanho total!"), TituloAplicacao, Icone::Exclamacao));
 }
 
-// Only a caller that asks gets them: the options' defaults name no band.
-TEST(Pintor, MarcasDeSelecaoQuandoPedidas)
-{
-    CanvasPagina canvas;
-    RecursosCanvas recursos;
-    OpcoesPintura op;
-    op.marcarSelecao = true;
-    op.bandaSelecionada = op.itemSelecionado = 1;
-    LayoutDocumento doc = UmaBanda(Novo(QString()));
-    ExibirBanda(doc, 1, canvas, recursos, nullptr, op);
-    EXPECT_TRUE(Todos(canvas.Imagem, QRect(8, 16, 64, 1), qRgb(0, 0, 128)));
-}

@@ -1,9 +1,11 @@
 #pragma once
 // What the widget tests share: a modal window driven from inside its own
-// event loop, and the names the accessibility tree gives.
+// event loop, the names the accessibility tree gives, and the Brazilian
+// number format the fields show.
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLocale>
 #include <QStringList>
 #include <QTest>
 #include <QTimer>
@@ -13,6 +15,13 @@
 #include <gtest/gtest.h>
 
 namespace lumeta::teste {
+
+// Numbers shown as a Brazilian user sees them ("12,5") while it lives.
+struct LocalBrasil {
+    QLocale anterior;
+    LocalBrasil() { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
+    ~LocalBrasil() { QLocale::setDefault(anterior); }
+};
 
 // Runs `acao` on the next modal window of type T (one opened over another
 // modal window too) once it shows; the call that opened it returns when the
@@ -46,10 +55,7 @@ template <class D>
 bool NoDialogo(const std::function<void()> &abrir, const std::function<void(D &)> &acao)
 {
     bool visto = false;
-    QuandoAbrir<D>([&](D *d) {
-        visto = true;
-        acao(*d);
-    });
+    QuandoAbrir<D>([&](D *d) { visto = true, acao(*d); });
     abrir();
     return visto;
 }
@@ -80,12 +86,11 @@ inline void ConferirNomesAcessiveis(QWidget *janela, const QStringList &esperado
         NomesAcessiveis(raiz->child(k), nomes);
     for (const QString &e : esperados)
         EXPECT_TRUE(nomes.contains(e)) << janela->objectName().toStdString() << ": " << e.toStdString();
-    for (QWidget *w : todosComNome ? janela->findChildren<QWidget *>() : QList<QWidget *>()) {
+    for (QWidget *w : todosComNome ? janela->findChildren<QWidget *>() : QList<QWidget *>())
         if (w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy()) {
             EXPECT_FALSE(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name).isEmpty())
                 << janela->objectName().toStdString() << ": " << w->objectName().toStdString();
         }
-    }
 }
 
 }  // namespace lumeta::teste

@@ -35,22 +35,13 @@ struct Sessao {
 
 using teste::QuandoAbrir;
 
-template <class T>
-T *filho(QWidget *w, const char *nome)
+// The buttons the dialogs do not keep are found by their names.
+void clicar(QWidget *w, const char *botao)
 {
-    T *c = w->findChild<T *>(QString::fromLatin1(nome));
-    EXPECT_NE(c, nullptr) << nome;
-    return c;
+    auto *b = w->findChild<QPushButton *>(QLatin1String(botao));
+    ASSERT_NE(b, nullptr) << botao;
+    QTest::mouseClick(b, Qt::LeftButton);
 }
-
-// The text box inside a numeric field.
-QLineEdit *numero(QWidget *w, const char *nome)
-{
-    auto *n = filho<NumeroCtl>(w, nome);
-    return n ? n->txtNumero() : nullptr;
-}
-
-void clicar(QWidget *w, const char *botao) { QTest::mouseClick(filho<QPushButton>(w, botao), Qt::LeftButton); }
 
 void digitar(QLineEdit *campo, const QString &texto)
 {
@@ -65,31 +56,28 @@ void digitar(QLineEdit *campo, const QString &texto)
 TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
 {
     Sessao t;
-    const QLocale local;
-    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    teste::LocalBrasil brasil;
     LayoutDocumento &d = t.s.Documento;
     d.MargemSuperior = QStringLiteral("MARGEM-SUP");
     d.MargemEsquerda = QStringLiteral("\"12.5\"");
     d.MargemInferior = QStringLiteral("VAR-INF");
-    QuandoAbrir([](QWidget *w) {
-        auto *numSup = numero(w, "numSuperior");
-        EXPECT_EQ(filho<QLineEdit>(w, "txtSuperior")->text(), QStringLiteral("MARGEM-SUP"));
-        EXPECT_EQ(numSup->text(), QString());
-        EXPECT_EQ(numero(w, "numEsquerda")->text(), QStringLiteral("12,5"));
-        EXPECT_EQ(filho<QLineEdit>(w, "txtEsquerda")->text(), QString());
+    QuandoAbrir<frmMargens>([](frmMargens *w) {
+        QLineEdit *sup = w->numSuperior->txtNumero(), *esq = w->numEsquerda->txtNumero(), *inf = w->numInferior->txtNumero();
+        EXPECT_EQ(QStringList({w->txtSuperior->text(), sup->text(), esq->text(), w->txtEsquerda->text()}),
+                  QStringList({"MARGEM-SUP", "", "12,5", ""}));
         // Enter moves on as Tab and is swallowed.
-        numSup->setFocus();
-        QTest::keyClick(numSup, Qt::Key_Return);
-        EXPECT_EQ(QApplication::focusWidget(), filho<QLineEdit>(w, "txtSuperior"));
+        sup->setFocus();
+        QTest::keyClick(sup, Qt::Key_Return);
+        EXPECT_EQ(QApplication::focusWidget(), w->txtSuperior);
         // Typing a name empties the number of the same margin, and a number the name.
-        digitar(filho<QLineEdit>(w, "txtEsquerda"), QStringLiteral("VAR-ESQ"));
-        EXPECT_EQ(numero(w, "numEsquerda")->text(), QString());
-        digitar(numero(w, "numInferior"), QStringLiteral("7"));
-        EXPECT_EQ(filho<QLineEdit>(w, "txtInferior")->text(), QString());
+        digitar(w->txtEsquerda, QStringLiteral("VAR-ESQ"));
+        EXPECT_EQ(esq->text(), QString());
+        digitar(inf, QStringLiteral("7"));
+        EXPECT_EQ(w->txtInferior->text(), QString());
         // A paste keeps what the keys take, the decimal comma among them.
         QApplication::clipboard()->setText(QStringLiteral(",5 cm"));
-        QTest::keyClick(numero(w, "numInferior"), Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(numero(w, "numInferior")->text(), QStringLiteral("7,5"));
+        QTest::keyClick(inf, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(inf->text(), QStringLiteral("7,5"));
         clicar(w, "btnOk");
     });
     EXPECT_TRUE(mnuConfigMargens(t.s, nullptr));
@@ -102,27 +90,24 @@ TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
     const auto anterior = ImpressorasInstaladas;
     ImpressorasInstaladas = [] { return QStringList{QStringLiteral("HP LaserJet 1020"), QStringLiteral("PDF Virtual")}; };
     t.s.Documento.NomeImpressora = QStringLiteral("Antiga");
-    QuandoAbrir([](QWidget *w) {
-        auto *lista = filho<QListWidget>(w, "lstImpressoras");
-        auto *txt = filho<QLineEdit>(w, "txtImpressora");
+    QuandoAbrir<frmNomeImpressora>([](frmNomeImpressora *w) {
+        QListWidget *lista = w->lstImpressoras;
         ASSERT_EQ(lista->count(), 4);
         // A printer that is not installed: only the text box, also once the
         // list has the focus.
-        EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
         EXPECT_TRUE(lista->selectedItems().isEmpty());
         lista->setFocus();
-        EXPECT_EQ(txt->text(), QStringLiteral("Antiga"));
-        digitar(txt, QStringLiteral("pdf virtual"));
-        EXPECT_EQ(lista->currentRow(), 3);
-        EXPECT_EQ(lista->selectedItems().size(), 1);
-        EXPECT_EQ(txt->text(), QStringLiteral("pdf virtual"));
+        EXPECT_EQ(w->txtImpressora->text(), QStringLiteral("Antiga"));
+        // A name typed in other capitals selects its entry and is stored as typed.
+        digitar(w->txtImpressora, QStringLiteral("pdf virtual"));
+        EXPECT_EQ(std::pair(lista->currentRow(), lista->selectedItems().size()), std::pair(3, qsizetype(1)));
         clicar(w, "btnOk");
     });
     EXPECT_TRUE(mnuConfigNomeImpressora(t.s, nullptr));
     EXPECT_TRUE(t.s.TextoResultado.startsWith(QStringLiteral("I pdf virtual\r\n")));
 
-    QuandoAbrir([](QWidget *w) {
-        auto *num = numero(w, "numQualidadeJPG");
+    QuandoAbrir<frmQualidadeJPG>([](frmQualidadeJPG *w) {
+        QLineEdit *num = w->numQualidadeJPG->txtNumero();
         EXPECT_EQ(num->text(), QStringLiteral("92"));
         digitar(num, QStringLiteral("150"));
         EXPECT_EQ(num->text(), QStringLiteral("100"));
@@ -134,8 +119,8 @@ TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
     EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("\r\nQJ 75\r\n"))) << t.s.TextoResultado.toStdString();
 
     t.s.Documento.TextoEmail = QStringLiteral("Prezado{ENTER}segue{enter}anexo");
-    QuandoAbrir([](QWidget *w) {
-        auto *txt = filho<QPlainTextEdit>(w, "txtTexto");
+    QuandoAbrir<frmTextoEmail>([](frmTextoEmail *w) {
+        QPlainTextEdit *txt = w->txtTexto;
         EXPECT_EQ(txt->toPlainText(), QStringLiteral("Prezado\nsegue{enter}anexo"));
         EXPECT_EQ(txt->font().family(), QStringLiteral("Times New Roman"));
         txt->moveCursor(QTextCursor::End);
@@ -155,17 +140,15 @@ TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
     t.s.ItemSelecionado = 1;
     Item &item = t.s.Documento.banda(1).Itens[0];
     item.Texto = QStringLiteral("Total geral");
-    QuandoAbrir([](QWidget *w) {
-        auto *txt = filho<QPlainTextEdit>(w, "txtEstilo");
-        auto *negrito = filho<QPushButton>(w, "btnEstilo(0)");
+    QuandoAbrir<frmEstilo>([](frmEstilo *w) {
+        QPlainTextEdit *txt = w->txtEstilo;
+        QPushButton *negrito = w->btnEstilo[0];
         QTextCursor c = txt->textCursor();
         c.setPosition(1);
         c.setPosition(4, QTextCursor::KeepAnchor);  // "ota"
         txt->setTextCursor(c);
-        EXPECT_FALSE(negrito->isChecked());
         QTest::mouseClick(negrito, Qt::LeftButton);
         EXPECT_EQ(txt->toPlainText(), QStringLiteral("{n}Total{/n} geral"));
-        EXPECT_TRUE(negrito->isChecked());
         // The caret alone inside "Total": the button shows pressed, a click removes both tags.
         c = txt->textCursor();
         c.setPosition(5);
@@ -176,20 +159,18 @@ TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
         EXPECT_FALSE(negrito->isChecked());
         // Italic on the last word; Enter in the box is a new line, not OK.
         txt->moveCursor(QTextCursor::End);
-        QTest::mouseClick(filho<QPushButton>(w, "btnEstilo(1)"), Qt::LeftButton);
+        QTest::mouseClick(w->btnEstilo[1], Qt::LeftButton);
         txt->moveCursor(QTextCursor::End);
         QTest::keyClick(txt, Qt::Key_Return);
         clicar(w, "btnOk");
     });
     EXPECT_TRUE(mnuEditarItemEstilo(t.s, nullptr));
-    EXPECT_EQ(item.Texto, QStringLiteral("Total {i}geral{/i}{e}"));
     EXPECT_TRUE(t.s.TextoResultado.contains(QStringLiteral("Total {i}geral{/i}{e}")));
 
     // Only text and command items have a style.
     item.Tipo = TipoFigura;
     EXPECT_FALSE(mnuEditarItemEstilo(t.s, nullptr));
     ImpressorasInstaladas = anterior;
-    QLocale::setDefault(local);
 }
 
 TEST(Dialogos, CancelOrEscapeChangesNothing)
@@ -201,28 +182,30 @@ TEST(Dialogos, CancelOrEscapeChangesNothing)
     const LayoutDocumento antes = t.s.Documento;
     const std::pair<bool (*)(SessaoEdicao &, QWidget *), std::function<void(QWidget *)>> casos[] = {
         {mnuConfigMargens, [](QWidget *w) {
-             digitar(numero(w, "numSuperior"), QStringLiteral("3"));
-             QTest::keyClick(numero(w, "numSuperior"), Qt::Key_Escape);   // from a number too
+             QLineEdit *sup = static_cast<frmMargens *>(w)->numSuperior->txtNumero();
+             digitar(sup, QStringLiteral("3"));
+             QTest::keyClick(sup, Qt::Key_Escape);   // from a number too
          }},
         {mnuConfigNomeImpressora, [](QWidget *w) {
              // A click on another entry writes it into the box.
-             auto *lista = filho<QListWidget>(w, "lstImpressoras");
+             auto *d = static_cast<frmNomeImpressora *>(w);
+             QListWidget *lista = d->lstImpressoras;
              QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
-             EXPECT_EQ(filho<QLineEdit>(w, "txtImpressora")->text(), QStringLiteral("<< Padrão do Windows >>"));
+             EXPECT_EQ(d->txtImpressora->text(), QStringLiteral("<< Padrão do Windows >>"));
              clicar(w, "btnCancelar");
          }},
         {mnuConfigQualidadeJPG, [](QWidget *w) {
-             digitar(numero(w, "numQualidadeJPG"), QStringLiteral("20"));
+             digitar(static_cast<frmQualidadeJPG *>(w)->numQualidadeJPG->txtNumero(), QStringLiteral("20"));
              clicar(w, "btnCancelar");
          }},
         {mnuConfigEmailTexto, [](QWidget *w) {
              clicar(w, "btnPadrao");
-             EXPECT_EQ(filho<QPlainTextEdit>(w, "txtTexto")->toPlainText(), TextoEmailPadrao());
+             EXPECT_EQ(static_cast<frmTextoEmail *>(w)->txtTexto->toPlainText(), TextoEmailPadrao());
              clicar(w, "btnCancelar");
          }},
         {mnuEditarItemEstilo, [](QWidget *w) {
-             filho<QPlainTextEdit>(w, "txtEstilo")->selectAll();
-             QTest::mouseClick(filho<QPushButton>(w, "btnEstilo(3)"), Qt::LeftButton);
+             static_cast<frmEstilo *>(w)->txtEstilo->selectAll();
+             QTest::mouseClick(static_cast<frmEstilo *>(w)->btnEstilo[3], Qt::LeftButton);
              clicar(w, "btnCancelar");
          }},
         {AbrirCodigoBarras, [](QWidget *w) {

@@ -22,14 +22,8 @@ using namespace lumeta;
 
 namespace {
 
-struct Brasil {
-    QLocale anterior;
-    Brasil() { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
-    ~Brasil() { QLocale::setDefault(anterior); }
-};
-
 // The window with its first item selected by a click.
-struct Painel : Brasil, teste::JanelaTeste {
+struct Painel : teste::LocalBrasil, teste::JanelaTeste {
     PainelJanela *p = janela.painel;
 
     Painel() : JanelaTeste({1100, 760})
@@ -72,8 +66,7 @@ TEST(PainelJanela, CamposNumericosECaixasPassamAdianteComEnter)
         QTest::keyClick(w, Qt::Key_Return);
         EXPECT_FALSE(w->hasFocus()) << w->objectName().toStdString();
     }
-    EXPECT_EQ(t.s.Documento.BandaCabecalho, 0);
-    EXPECT_EQ(t.item().Atributos.at(0), u'0');
+    EXPECT_EQ(std::pair(t.s.Documento.BandaCabecalho, t.item().Atributos.at(0)), std::pair(0, QChar(u'0')));
 
     const QString antes = t.linhaT();
     QCheckBox *centro = t.p->chkAlinhamento[0];
@@ -97,7 +90,6 @@ TEST(PainelJanela, CamposNumericosECaixasPassamAdianteComEnter)
     EXPECT_EQ(t.s.Documento.banda(2).Deslocamento, -16);
     campo->setFocus();   // the sign stays when the field is entered again
     EXPECT_EQ(campo->text(), QStringLiteral("-16"));
-    EXPECT_EQ(t.p->numDeslocamento->Value(), -16);
 }
 
 TEST(PainelJanela, CaixaDeTipoBotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
@@ -108,8 +100,7 @@ TEST(PainelJanela, CaixaDeTipoBotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     tipo->setCurrentIndex(3);
     auto cancelar = [](frmCodigoBarras &d) { d.reject(); };
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { emit tipo->activated(3); }, cancelar));
-    EXPECT_EQ(t.item().Tipo, TipoTexto);
-    EXPECT_EQ(tipo->currentText(), QStringLiteral("Texto"));
+    EXPECT_EQ(std::pair(int(t.item().Tipo), tipo->currentText()), std::pair(int(TipoTexto), QStringLiteral("Texto")));
 
     t.item().Tipo = 31;
     t.s.ConcluirEdicao();
@@ -139,8 +130,7 @@ TEST(PainelJanela, CaixaDeTipoBotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     EXPECT_EQ(habilitadas, (QStringList{"mnuPopup2Texto", "mnuPopup2Figura", "mnuPopup2Comando"}));
     menu->close();
     menu->actions()[0]->trigger();
-    EXPECT_EQ(t.s.Documento.banda(1).Itens[t.s.ItemSelecionado - 1].Tipo, 0);
-    EXPECT_EQ(t.s.ItemSelecionado, 2);
+    EXPECT_EQ(std::pair(t.s.ItemSelecionado, int(t.s.Documento.banda(1).Itens[1].Tipo)), std::pair(2, 0));
     direito();
     menu->close();
     EXPECT_TRUE(teste::NoDialogo<frmCodigoBarras>([&] { menu->actions()[3]->trigger(); }, cancelar));
@@ -152,8 +142,6 @@ TEST(PainelJanela, DigitarNoCanvasEnterEMacroNoCursor)
     t.janela.picPagina->setFocus();
     QTest::keyClick(t.janela.picPagina, Qt::Key_A);
     EXPECT_TRUE(t.p->txtTexto->hasFocus());
-    EXPECT_EQ(t.p->txtTexto->text(), QStringLiteral("a"));
-    EXPECT_EQ(t.p->txtTexto->cursorPosition(), 1);
     QTest::keyClicks(t.p->txtTexto, QStringLiteral("bc"));
     QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
     EXPECT_EQ(t.item().Texto, QStringLiteral("abc"));
@@ -177,7 +165,6 @@ TEST(PainelJanela, DigitarNoCanvasEnterEMacroNoCursor)
     t.p->txtTexto->setText(QStringLiteral("Pág "));
     t.p->txtTexto->setCursorPosition(4);
     t.p->InserirMacro(0);
-    EXPECT_EQ(t.p->txtTexto->text(), QStringLiteral("Pág (%_pag_%)"));
     EXPECT_EQ(t.p->txtTexto->selectedText(), QStringLiteral("(%_pag_%)"));
     QTest::keyClick(t.p->txtTexto, Qt::Key_Return);
     EXPECT_EQ(t.item().Texto, QStringLiteral("Pág (%_pag_%)"));

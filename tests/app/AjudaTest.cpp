@@ -67,8 +67,8 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     j.acao("mnuAjudaConteudo")->trigger();
     j.acao("mnuAjudaExemplo")->trigger();
     ASSERT_EQ(j.ui.mensagens.size(), 2);
-    EXPECT_EQ(j.ui.mensagens[0].texto, MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo));
-    EXPECT_EQ(j.ui.mensagens[0].titulo, QStringLiteral("Ajuda"));
+    EXPECT_EQ(std::pair(j.ui.mensagens[0].texto, j.ui.mensagens[0].titulo),
+              std::pair(MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo), QStringLiteral("Ajuda")));
     EXPECT_EQ(j.ui.mensagens[1].texto, PastaRecursos() + PastaExemplos
                                          + QStringLiteral("\n\nNão foi possível encontrar a pasta dos exemplos acima!"));
     qunsetenv(VariavelPastaRecursos);

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QMap>
 #include <QMenu>
 #include <QTest>
 #include <QScrollBar>
@@ -77,27 +78,23 @@ TEST(EdicaoCanvas, FantasmaCriaItemShiftCliqueRedimensionaEDeleteRemoveABanda)
     // Right of the band's last item (which ends at 128): the magic item's
     // ghost follows the pointer and a click adds an item of its width.
     QTest::mouseMove(e.pagina, QPoint(150, 24));
-    ASSERT_TRUE(e.s.Magico.visivel);
     EXPECT_EQ(e.s.Magico.retangulo, QRect(136, 16, 24, 18));
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(150, 24));
-    ASSERT_EQ(e.s.Documento.banda(1).NumItens(), 3);
-    EXPECT_EQ(e.item(1, 3).Largura, 24);
+    EXPECT_EQ(e.larguras(1), (QList<int32_t>{64, 64, 24}));
     QTest::keyClick(&e.janela, Qt::Key_Z, Qt::ControlModifier);
 
+    // Shift with an arrow resizes. (A Shift click makes a range in the
+    // handle drags below.)
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
-    QTest::mouseClick(e.pagina, Qt::LeftButton, Qt::ShiftModifier, e.centro(2, 2));
-    ASSERT_TRUE(e.s.Faixa.VariasBandas());
     QTest::keyClick(e.pagina, Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(e.item(1, 1).Largura, 72);
 
     // The band's empty part close to its last item: no item, no ghost.
     const Banda &b2 = e.s.Documento.banda(2);
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(8 + 144 + 4, b2.Topo + 4));
-    ASSERT_EQ(e.s.BandaSelecionada, 2);
-    ASSERT_EQ(e.s.ItemSelecionado, 0);
+    ASSERT_EQ(std::pair(e.s.BandaSelecionada, e.s.ItemSelecionado), std::pair(2, 0));
     QTest::keyClick(e.pagina, Qt::Key_Delete);
-    EXPECT_EQ(e.s.Documento.NumBandas(), 1);
-    EXPECT_EQ(e.s.BandaSelecionada, 1);
+    EXPECT_EQ(std::pair(e.s.Documento.NumBandas(), e.s.BandaSelecionada), std::pair(1, 1));
     QTest::keyClick(&e.janela, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(e.s.Documento.NumBandas(), 2);
 }
@@ -160,8 +157,7 @@ TEST(EdicaoCanvas, BandaSemItensDeUmArquivoAceitaTeclasMenusEMagico)
     e.s.ConcluirEdicao();
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, e.centro(1, 1));
     QTest::keyClick(e.pagina, Qt::Key_Down);
-    ASSERT_EQ(e.s.BandaSelecionada, 2);
-    EXPECT_EQ(e.s.ItemSelecionado, 0);
+    ASSERT_EQ(std::pair(e.s.BandaSelecionada, e.s.ItemSelecionado), std::pair(2, 0));
     emit e.janela.mnuEditar->aboutToShow();
     for (const char *nome : {"mnuEditarBandaFonte", "mnuEditarItemDuplicar", "mnuEditarTudo"})
         e.janela.findChild<QAction *>(QLatin1String(nome))->trigger();
@@ -173,8 +169,7 @@ TEST(EdicaoCanvas, BandaSemItensDeUmArquivoAceitaTeclasMenusEMagico)
     const int y = e.s.Documento.banda(2).Topo + 4;
     QTest::mouseMove(e.pagina, QPoint(40, y));
     QTest::mouseClick(e.pagina, Qt::LeftButton, {}, QPoint(40, y));
-    ASSERT_EQ(e.s.Documento.banda(2).NumItens(), 1);
-    EXPECT_EQ(e.item(2, 1).Largura, 48);
+    EXPECT_EQ(e.larguras(2), QList<int32_t>{48});
 }
 
 TEST(EdicaoCanvas, TeclasDeEstiloMolduraDesfazerERefazer)
@@ -185,17 +180,15 @@ TEST(EdicaoCanvas, TeclasDeEstiloMolduraDesfazerERefazer)
     const FonteItem original = e.item(1, 1).Fonte;
     QTest::keyClick(e.pagina, Qt::Key_B, Qt::ControlModifier);
     QTest::keyClick(e.pagina, Qt::Key_5, Qt::ControlModifier);
-    EXPECT_TRUE(e.item(1, 1).Fonte.Negrito);
-    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0101110000"));  // right, bottom, top, left
+    // The frame is the right, bottom, top and left lines.
+    EXPECT_EQ(std::pair(e.item(1, 1).Fonte.Negrito, e.item(1, 1).Linhas), std::pair(true, QStringLiteral("0101110000")));
     auto *moldura = e.janela.findChild<QToolButton *>(QStringLiteral("btnMoldura"));
-    EXPECT_TRUE(moldura->isChecked());
-    EXPECT_EQ(moldura->toolTip(), QStringLiteral("Moldura - [CTRL + 5]"));
+    EXPECT_EQ(std::pair(moldura->isChecked(), moldura->toolTip()), std::pair(true, QStringLiteral("Moldura - [CTRL + 5]")));
 
     // Each key is one step back; Ctrl+Y and Ctrl+Shift+Z take them back.
     QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(e.item(1, 1).Fonte, original);
-    EXPECT_EQ(e.item(1, 1).Linhas, QStringLiteral("0000000000"));
+    EXPECT_EQ(std::pair(e.item(1, 1).Fonte, e.item(1, 1).Linhas), std::pair(original, QStringLiteral("0000000000")));
     QTest::keyClick(e.pagina, Qt::Key_Y, Qt::ControlModifier);
     EXPECT_TRUE(e.item(1, 1).Fonte.Negrito);
     QTest::keyClick(e.pagina, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
@@ -224,8 +217,7 @@ TEST(EdicaoCanvas, ZoomGuardaCliquesAlcasEMagicoEmPixelsDoCanvas)
         e.s.Documento.ReposicionarTudo();
         e.janela.AplicarZoom(zoom);
         const double z = zoom / 100.0;
-        EXPECT_EQ(e.pagina->Zoom(), z);
-        EXPECT_EQ(e.s.Config.Zoom, zoom);  // kept in the settings at shut-down
+        EXPECT_EQ(std::pair(e.pagina->Zoom(), e.s.Config.Zoom), std::pair(z, zoom));  // kept in the settings at shut-down
         // The middle of a canvas pixel, on the screen.
         auto tela = [&](QPoint c) { return ((QPointF(c - e.pagina->Origem()) + QPointF(0.5, 0.5)) * z).toPoint(); };
         QTest::mouseClick(e.pagina, Qt::LeftButton, {}, tela(e.centro(2, 2)));
@@ -252,10 +244,8 @@ TEST(EdicaoCanvas, ZoomGuardaCliquesAlcasEMagicoEmPixelsDoCanvas)
         EXPECT_EQ(e.s.Documento.NumBandas(), 3);
         resultados << e.s.Documento;
     }
-    EXPECT_EQ(resultados[0], resultados[1]);
-    EXPECT_EQ(resultados[2], resultados[1]);
-    EXPECT_EQ(fantasmas[0], fantasmas[1]);
-    EXPECT_EQ(fantasmas[2], fantasmas[1]);
+    EXPECT_EQ(resultados, QList<LayoutDocumento>(3, resultados[1]));
+    EXPECT_EQ(fantasmas, QList<QSize>(3, fantasmas[1]));
 }
 
 TEST(EdicaoCanvas, ReguasNaUnidadeENoZoomMarcamOItemOndeEleEDesenhado)
@@ -285,11 +275,9 @@ TEST(EdicaoCanvas, ReguasNaUnidadeENoZoomMarcamOItemOndeEleEDesenhado)
     EXPECT_NEAR(e.pagina->ParaCanvasF(ponteiro).x(), antes.x(), 1.0);
     EXPECT_NEAR(e.pagina->ParaCanvasF(ponteiro).y(), antes.y(), 1.0);
     // 10 mm lies 2 x 37.795 screen pixels from the ruler's 0.
-    const auto marcas = MarcasRegua(e.s.UnidadeAtual, 2.0, 0, 8, 400);
-    const auto zero = std::find_if(marcas.begin(), marcas.end(), [](const MarcaRegua &m) { return m.rotulo == "0"; });
-    const auto dez = std::find_if(marcas.begin(), marcas.end(), [](const MarcaRegua &m) { return m.rotulo == "10"; });
-    ASSERT_NE(zero, marcas.end());
-    ASSERT_NE(dez, marcas.end());
-    EXPECT_NEAR(dez->posicao - zero->posicao, 2 * 37.795275, 1e-6);
-    EXPECT_NEAR(zero->posicao, 2 * 8, 1e-9);
+    QMap<QString, double> posicao;   // a label missing reads as 0 and fails both
+    for (const MarcaRegua &m : MarcasRegua(e.s.UnidadeAtual, 2.0, 0, 8, 400))
+        posicao[m.rotulo] = m.posicao;
+    EXPECT_NEAR(posicao[QStringLiteral("10")] - posicao[QStringLiteral("0")], 2 * 37.795275, 1e-6);
+    EXPECT_NEAR(posicao[QStringLiteral("0")], 2 * 8, 1e-9);
 }

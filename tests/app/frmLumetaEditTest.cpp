@@ -66,19 +66,15 @@ TEST(frmLumetaEdit, PrimeiroInicioMenusCanvasRodaEAboutBox)
         EXPECT_FALSE(j.acao(nome)->isChecked()) << nome;
     EXPECT_TRUE(j.janela.btnMagic->Value());
 
-    // The page picture shows what the viewport holds of the canvas.
-    EXPECT_GE(j.s.Canvas.Tamanho.width(), 1120);
+    // The page picture shows what the viewport holds of the canvas. (The
+    // scroll bars' range and a scrolled picture: the layouts at the limit.)
     EXPECT_EQ(j.janela.picPagina->size(), j.janela.picContainer->size());
     const QImage img = j.janela.picPagina->grab(QRect(0, 0, 800, 200)).toImage();
     EXPECT_EQ(QColor(img.pixel(8, 20)), QColor(230, 230, 230));       // the item's cell outline
 
     // Scroll bars move the page inside the viewport.
     QScrollBar *v = j.janela.vsbPagina;
-    EXPECT_EQ(v->maximum(), 1120 - j.janela.picContainer->height());
-    v->setValue(10);  // the cell outline's row 20 now shows on row 10
-    EXPECT_EQ(QColor(j.janela.picPagina->grab(QRect(0, 0, 800, 200)).toImage().pixel(8, 10)), QColor(230, 230, 230));
     v->setValue(100);
-    EXPECT_EQ(j.janela.picPagina->ParaCanvas(QPointF(3, 4)), QPoint(3, 104));
     j.janela.hsbPagina->setValue(j.janela.hsbPagina->maximum());
     EXPECT_EQ(j.janela.picPagina->Origem(), QPoint(j.janela.hsbPagina->maximum(), 100));
 
@@ -105,7 +101,6 @@ TEST(frmLumetaEdit, PrimeiroInicioMenusCanvasRodaEAboutBox)
     j.s.ItemSelecionado = 1;
     j.janela.MostrarSelecao();
     EXPECT_EQ(v->value(), 16 - 8);
-    j.s.ItemSelecionado = 0;
 
     // The about box shows the build's own version and opens the site.
     Autor autor(&j.janela);
@@ -183,8 +178,8 @@ TEST(frmLumetaEdit, ArquivosRecentesNoMenuEAberturaQueFalhaEncerraSemPerguntar)
     const qsizetype perguntas = j.ui.perguntas.size();
     j.acao("mnuArquivoAbrir")->trigger();
     EXPECT_EQ(encerramentos, 1);
-    EXPECT_EQ(j.ui.perguntas.size(), perguntas + 1);   // only the one before the dialog
-    EXPECT_TRUE(j.janela.close());                       // no further question
+    // Only the question before the dialog, none on closing.
+    EXPECT_TRUE(j.janela.close());
     EXPECT_EQ(j.ui.perguntas.size(), perguntas + 1);
 }
 
@@ -333,8 +328,7 @@ TEST(frmLumetaEdit, LayoutsNoLimiteAbremInteirosRolamAteOFimEEditamLa)
         ASSERT_TRUE(pagina->rect().contains(celula));
         EXPECT_EQ(QColor(pagina->grab().toImage().pixel(celula.x() - 20, celula.y())), QColor(230, 230, 230));
         QTest::mouseClick(pagina, Qt::LeftButton, {}, celula);
-        ASSERT_EQ(s.BandaSelecionada, 32767);
-        ASSERT_EQ(s.ItemSelecionado, 3);
+        ASSERT_EQ(std::pair(s.BandaSelecionada, s.ItemSelecionado), std::pair(32767, 3));
         QTest::keyClick(pagina, Qt::Key_Delete);
         EXPECT_EQ(s.Documento.banda(32767).NumItens(), 9);
         EXPECT_EQ(v->value(), v->maximum());

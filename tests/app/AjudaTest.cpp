@@ -3,8 +3,8 @@
 #include "app/JanelaTeste.h"
 #include "app/gui/JanelaAjuda.h"
 #include "document/ModuloLumetaEdit.h"
+#include "support/VariavelTemporaria.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -17,16 +17,11 @@ namespace {
 
 const QString Distribuidos = QStringLiteral(LUMETA_DISTRIBUIDOS);
 
-void ApontarRecursos(const QString &pasta)
-{
-    qputenv(VariavelPastaRecursos, QFile::encodeName(pasta));
-}
-
 }  // namespace
 
 TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
 {
-    ApontarRecursos(Distribuidos);
+    teste::VariavelTemporaria recursos(VariavelPastaRecursos, Distribuidos);
     teste::JanelaTeste j;
 
     // "Conteúdo": the manual, in one help window that "Tutorial" reuses.
@@ -63,7 +58,7 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     // Nothing shipped where the program looks: a message each, never silence;
     // none before.
     QTemporaryDir vazia;
-    ApontarRecursos(vazia.path());
+    teste::VariavelTemporaria semRecursos(VariavelPastaRecursos, vazia.path());
     j.acao("mnuAjudaConteudo")->trigger();
     j.acao("mnuAjudaExemplo")->trigger();
     ASSERT_EQ(j.ui.mensagens.size(), 2);
@@ -71,5 +66,4 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
               std::pair(MensagemDocumentoAjuda(PastaRecursos() + DocumentoConteudo), QStringLiteral("Ajuda")));
     EXPECT_EQ(j.ui.mensagens[1].texto, PastaRecursos() + PastaExemplos
                                          + QStringLiteral("\n\nNão foi possível encontrar a pasta dos exemplos acima!"));
-    qunsetenv(VariavelPastaRecursos);
 }

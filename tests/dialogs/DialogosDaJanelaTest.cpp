@@ -42,8 +42,7 @@ struct Janela : teste::JanelaTeste {
     }
     bool abrir(const std::function<void(frmComentario &)> &passo)
     {
-        QAction *a = acao("mnuEditarBandaComentario");
-        return teste::NoDialogo<frmComentario>([a] { a->trigger(); }, passo);
+        return teste::NoDialogo<frmComentario>([this] { acao("mnuEditarBandaComentario")->trigger(); }, passo);
     }
 };
 

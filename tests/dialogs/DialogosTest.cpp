@@ -121,8 +121,8 @@ TEST(Dialogos, OptionsAreShownAsStoredAndWrittenBackAsTyped)
     t.s.Documento.TextoEmail = QStringLiteral("Prezado{ENTER}segue{enter}anexo");
     QuandoAbrir<frmTextoEmail>([](frmTextoEmail *w) {
         QPlainTextEdit *txt = w->txtTexto;
-        EXPECT_EQ(txt->toPlainText(), QStringLiteral("Prezado\nsegue{enter}anexo"));
-        EXPECT_EQ(txt->font().family(), QStringLiteral("Times New Roman"));
+        EXPECT_EQ(std::pair(txt->toPlainText(), txt->font().family()),
+                  std::pair(QStringLiteral("Prezado\nsegue{enter}anexo"), QStringLiteral("Times New Roman")));
         txt->moveCursor(QTextCursor::End);
         // Enter in the box is a new line, not OK.
         QTest::keyClick(txt, Qt::Key_Return);

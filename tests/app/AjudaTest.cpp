@@ -27,8 +27,7 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     // "Conteúdo": the manual, in one help window that "Tutorial" reuses.
     j.acao("mnuAjudaConteudo")->trigger();
     auto *ajuda = j.janela.findChild<JanelaAjuda *>();
-    ASSERT_TRUE(ajuda);
-    EXPECT_TRUE(ajuda->isVisible());
+    ASSERT_TRUE(ajuda && ajuda->isVisible());
     QTextBrowser *texto = ajuda->Navegador();
     EXPECT_TRUE(texto->toPlainText().contains(QStringLiteral("Os marcadores \"§\"")));
     j.acao("mnuAjudaTutorial")->trigger();

@@ -185,8 +185,7 @@ TEST(PainelJanela, ControlesAcessiveisPeloNome)
                                       {t.p->cmbAngulo, QStringLiteral("Ângulo:")},
                                       {t.p->cmbTamanho, QStringLiteral("Zoom:")}}) {
         QAccessibleInterface *i = QAccessible::queryAccessibleInterface(caixa);
-        EXPECT_EQ(i->text(QAccessible::Name), nome);
-        EXPECT_EQ(i->text(QAccessible::Value), caixa->currentText());
-        EXPECT_EQ(i->role(), QAccessible::ComboBox);
+        EXPECT_EQ(std::tuple(i->text(QAccessible::Name), i->text(QAccessible::Value), i->role()),
+                  std::tuple(nome, caixa->currentText(), QAccessible::ComboBox));
     }
 }

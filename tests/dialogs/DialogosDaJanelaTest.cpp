@@ -124,13 +124,11 @@ TEST(frmComentario, DuasCaixasEmTornoDo255)
         EXPECT_EQ(d.lblPos[0]->text(), QStringLiteral("(2, 2)"));
         QTest::mouseClick(d.btnOk, Qt::LeftButton);
     }));
-    EXPECT_EQ(j.comentario(), QStringLiteral("A\r\nx"));
-    EXPECT_TRUE(j.s.Alterado);
+    EXPECT_EQ(std::pair(j.comentario(), j.s.Alterado), std::pair(QStringLiteral("A\r\nx"), true));
 
     j.s.Alterado = false;
     ASSERT_TRUE(j.abrir([](frmComentario &d) { QTest::mouseClick(d.btnLimpar, Qt::LeftButton); }));
-    EXPECT_TRUE(j.comentario().isEmpty());
-    EXPECT_TRUE(j.s.Alterado);
+    EXPECT_TRUE(j.comentario().isEmpty() && j.s.Alterado);
 }
 
 TEST(frmComentario, FerramentasInseremNoCursorEAPosicaoFicaGuardadaNaTela)

@@ -79,9 +79,7 @@ TEST(frmLinguagens, ModeloGravadoAoSairDaOpcaoEControlesComNome)
 
     // Another language: the last one is left as it was.
     d.cmbLin->setCurrentIndex(1);
-    EXPECT_TRUE(d.Definicao().EhCobol);
-    EXPECT_TRUE(d.optLin[0]->isChecked());
-    EXPECT_TRUE(p.ui.mensagens.isEmpty());
+    EXPECT_TRUE(d.Definicao().EhCobol && d.optLin[0]->isChecked() && p.ui.mensagens.isEmpty());
 
     // Every control is found by its name.
     QStringList esperados{"Selecione a linguagem:", "Adicionar uma nova linguagem", "Remover a linguagem selecionada",

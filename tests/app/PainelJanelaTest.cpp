@@ -102,6 +102,8 @@ TEST(PainelJanela, CaixaDeTipoBotaoFonteEMenuDeTipoAbremOCodigoDeBarras)
     t.s.AddItem(1, false, 0);   // goes before the selected barcode
     t.s.ConcluirEdicao();
     QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, Qt::ShiftModifier, QPoint(8 + 10, 16 + 5));
+    // A plain click there would select the text item, whose button is the font's too.
+    ASSERT_TRUE(t.s.Faixa.visivel);
     EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("&Fonte"));
     QTest::mouseClick(t.janela.picPagina, Qt::LeftButton, {}, QPoint(8 + 64 + 10, 16 + 5));
     EXPECT_EQ(t.p->btnFonte->text(), QStringLiteral("A&lterar"));   // the barcode's caption

@@ -46,62 +46,6 @@ LayoutDocumento LayoutBandaAltissima()
     return doc;
 }
 
-namespace {
-int g_mensagensQt = 0;
-QtMessageHandler g_anterior = nullptr;
-}  // namespace
-
-ContadorMensagensQt::ContadorMensagensQt()
-{
-    g_mensagensQt = 0;
-    g_anterior = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++g_mensagensQt; });
-}
-
-ContadorMensagensQt::~ContadorMensagensQt()
-{
-    qInstallMessageHandler(g_anterior);
-}
-
-int ContadorMensagensQt::total() const
-{
-    return g_mensagensQt;
-}
-
-Bytes &Bytes::i16(int v)
-{
-    b.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));
-    return *this;
-}
-Bytes &Bytes::i32(int v)
-{
-    for (int i = 0; i < 4; ++i)
-        b.append(char((unsigned(v) >> (8 * i)) & 0xFF));
-    return *this;
-}
-Bytes &Bytes::u8(int v)
-{
-    b.append(char(v));
-    return *this;
-}
-Bytes &Bytes::str(const QByteArray &s)
-{
-    i16(int(s.size()));
-    b.append(s);
-    return *this;
-}
-Bytes &Bytes::raw(const QByteArray &s)
-{
-    b.append(s);
-    return *this;
-}
-Bytes &Bytes::cab(const char *revisao)
-{
-    QByteArray c = QByteArray("LumetaEdit 1.0(") + revisao + ")";
-    c.append(QByteArray(32 - c.size(), ' '));
-    b.append(c);
-    return *this;
-}
-
 QString CaminhoDados(const QString &nome)
 {
     return QStringLiteral(LUMETA_TEST_DATA "/") + nome;

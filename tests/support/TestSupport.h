@@ -24,7 +24,10 @@ struct Bytes {
 
 // An item of the given type, text and horizontal place; the rest as a new
 // item has it.
-Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura);
+inline Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura)
+{
+    return {.Texto = texto, .Fonte = {}, .Esquerda = esquerda, .Largura = largura, .Tipo = tipo};
+}
 
 // A COBOL program up to its working storage, with the file the shipped
 // language's copybooks write (ARQ-LUMETA, line sequential) and the

@@ -90,6 +90,7 @@ TEST(XPButtonCtl, AlternanciaCliqueTeclasEFoco)
     b->setCheckBoxBehaviour(true);
     Clicar(b, QPoint(10, 10));
     Clicar(b, QPoint(10, 10));
+
     // A release outside the button is no click.
     QTest::mousePress(b, Qt::LeftButton, {}, QPoint(10, 10));
     QTest::mouseRelease(b, Qt::LeftButton, {}, QPoint(200, 10));

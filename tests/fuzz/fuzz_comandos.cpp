@@ -9,14 +9,6 @@
 #include <QPainter>
 #include <cstdlib>
 
-using lumeta::fuzz::g_mensagens;
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    lumeta::fuzz::Iniciar(argc, argv);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     using namespace lumeta;
@@ -32,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Every band is at least one line, so a page is too.
     if (motor.NumPaginas() < 1 || qsizetype(motor.NumPaginas()) > qsizetype(size) + 1)
         std::abort();
-    g_mensagens = 0;
+    fuzz::g_mensagens = 0;
     QImage figura(80, 110, QImage::Format_RGB32);
     for (int pagina : {1, motor.NumPaginas()}) {
         figura.fill(Qt::white);
@@ -41,7 +33,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         if (!motor.PintarPagina(p, pagina))
             std::abort();
     }
-    if (g_mensagens > 16)
-        std::abort();
+    fuzz::ConferirMensagens();
     return 0;
 }

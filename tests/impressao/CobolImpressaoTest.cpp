@@ -21,14 +21,6 @@ namespace {
 
 constexpr int Linhas = 150;
 
-QString Juntar(std::initializer_list<const char *> l)
-{
-    QStringList r;
-    for (const char *s : l)
-        r.append(QString::fromLatin1(s));
-    return r.join(QStringLiteral("\r\n"));
-}
-
 LayoutDocumento Relatorio()
 {
     LayoutDocumento doc;
@@ -40,17 +32,15 @@ LayoutDocumento Relatorio()
     detalhe.Itens = {teste::NovoItem(TipoComando, QStringLiteral("WS-DESCR"), 0, 300)};
     // The band's code: repeat it for every line, then write the running
     // total into variable 01, as a report program does.
-    detalhe.Comentario =
-        Juntar({"           perform varying WS-I from 1 by 1 until WS-I > 150",
-                "           move WS-I to WS-NUM",
-                "           move spaces to WS-DESCR",
-                "           string \"Linha \" WS-NUM delimited by size into WS-DESCR"})
-        + QChar(0xFF)
-        + Juntar({"           add WS-I to WS-TOTAL",
-                  "           move spaces to WS-LINHA",
-                  "           string \"01 \" WS-TOTAL delimited by size into WS-LINHA",
-                  "           write REG-LUMETA from WS-LINHA",
-                  "           end-perform"});
+    detalhe.Comentario = QStringLiteral("           perform varying WS-I from 1 by 1 until WS-I > 150\r\n"
+                                        "           move WS-I to WS-NUM\r\n"
+                                        "           move spaces to WS-DESCR\r\n"
+                                        "           string \"Linha \" WS-NUM delimited by size into WS-DESCR"
+                                        "\u00FF           add WS-I to WS-TOTAL\r\n"  // the code after the band
+                                        "           move spaces to WS-LINHA\r\n"
+                                        "           string \"01 \" WS-TOTAL delimited by size into WS-LINHA\r\n"
+                                        "           write REG-LUMETA from WS-LINHA\r\n"
+                                        "           end-perform");
     Banda rodape;
     rodape.Altura = 70;
     Item codigo = teste::NovoItem(TipoEAN13, QStringLiteral("\"7891234567895\""), 300, 120);

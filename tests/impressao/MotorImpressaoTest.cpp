@@ -137,17 +137,16 @@ TEST(Paginacao, HeaderFooterAndBandPlacement)
 
     // The left margin moves the items on the sheet, 10 mm = 38 pixels.
     const QString fundo = QStringLiteral("L 00000000000096000000000001\r\n");
-    QRect tinta[2];
+    int tinta[2] = {-1, -1};
     for (int i = 0; i < 2; ++i) {
         MotorImpressao comMargem;
         ASSERT_TRUE(comMargem.AbrirTexto((i ? "ME 010\r\n" : "") + fundo + Bloco("x", 20), "x"));
         const QImage pagina = ImagemPagina(comMargem, 1, 96);
-        for (int x = 0; x < pagina.width() && tinta[i].isNull(); ++x)
+        for (int x = 0; x < pagina.width() && tinta[i] < 0; ++x)
             if (pagina.pixel(x, 60) == qRgb(0, 0, 0))
-                tinta[i] = QRect(x, 60, 1, 1);
+                tinta[i] = x;
     }
-    EXPECT_EQ(tinta[0].x(), 13);
-    EXPECT_EQ(tinta[1].x(), 13 + 38);
+    EXPECT_EQ(std::pair(tinta[0], tinta[1]), std::pair(13, 13 + 38));
 }
 
 TEST(Paginacao, AutomaticHeightsFollowThePrintedText)
@@ -302,12 +301,9 @@ TEST(PapelECanvas, EachBandPrintsTheCanvasPixels)
             if (EhCodigoBarras(it.Tipo) && !it.Texto.startsWith(QLatin1Char('"')))
                 it.Texto = QStringLiteral("\"0123456789\"");
         }
-    {
-        SCOPED_TRACE("amostra");
-        // Its footer shows variable 07 as written, which is what the host
-        // gets when it assigns that text.
-        CompararComCanvas(amostra, QStringLiteral("07 (%_07_%)\r\n"));
-    }
+    // Its footer shows variable 07 as written, which is what the host gets
+    // when it assigns that text.
+    CompararComCanvas(amostra, QStringLiteral("07 (%_07_%)\r\n"));
 
     QRandomGenerator aleatorio(20261124);
     // An empty text with lines or a background is an "L " line alone.

@@ -27,6 +27,7 @@ public:
     QList<OpcoesArquivo> dialogos;
     std::deque<std::optional<FonteEscolhida>> fontes;  // answers of the font dialog
     std::vector<bool> fontesSoImpressao;                // how each font dialog was asked
+    std::deque<std::optional<int>> cores;               // answers of the colour dialog
 
     void Mensagem(const QString &texto, const QString &titulo, Icone icone) override
     {
@@ -35,55 +36,27 @@ public:
     Resposta Perguntar(const QString &texto, const QString &titulo, Botoes, Icone icone) override
     {
         perguntas.append({texto, titulo, icone});
-        if (respostas.empty())
-            return Resposta::Cancelar;
-        const Resposta r = respostas.front();
-        respostas.pop_front();
-        return r;
+        return proxima(respostas, Resposta::Cancelar);
     }
-    QString ArquivoSalvar(const OpcoesArquivo &o) override { return proximoArquivo(o); }
-    QString ArquivoAbrir(const OpcoesArquivo &o) override { return proximoArquivo(o); }
-    std::optional<QString> Entrada(const QString &, const QString &, const QString &) override
-    {
-        if (entradas.empty())
-            return std::nullopt;
-        std::optional<QString> r;
-        r.swap(entradas.front());
-        entradas.pop_front();
-        return r;
-    }
-
+    QString ArquivoSalvar(const OpcoesArquivo &o) override { dialogos.append(o); return proxima(arquivos); }
+    QString ArquivoAbrir(const OpcoesArquivo &o) override { dialogos.append(o); return proxima(arquivos); }
+    std::optional<QString> Entrada(const QString &, const QString &, const QString &) override { return proxima(entradas); }
     std::optional<FonteEscolhida> Fonte(const FonteEscolhida &, bool soImpressao) override
     {
         fontesSoImpressao.push_back(soImpressao);
-        if (fontes.empty())
-            return std::nullopt;
-        const bool cancelado = !fontes.front().has_value();
-        const FonteEscolhida f = cancelado ? FonteEscolhida() : *fontes.front();
-        fontes.pop_front();
-        if (cancelado)
-            return std::nullopt;
-        return f;
+        return proxima(fontes);
     }
-
-    std::deque<std::optional<int>> cores;  // answers of the colour dialog
-    std::optional<int> Cor(int) override
-    {
-        if (cores.empty())
-            return std::nullopt;
-        const std::optional<int> c = cores.front();
-        cores.pop_front();
-        return c;
-    }
+    std::optional<int> Cor(int) override { return proxima(cores); }
 
 private:
-    QString proximoArquivo(const OpcoesArquivo &o)
+    // The next queued answer; once the script runs out, a cancel.
+    template <class T>
+    static T proxima(std::deque<T> &fila, T vazia = T())
     {
-        dialogos.append(o);
-        if (arquivos.empty())
-            return QString();
-        const QString r = arquivos.front();
-        arquivos.pop_front();
+        if (fila.empty())
+            return vazia;
+        T r = std::move(fila.front());
+        fila.pop_front();
         return r;
     }
 };

@@ -6,100 +6,27 @@
 
 namespace lumeta::teste {
 
-Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura)
-{
-    Item it;
-    it.Tipo = tipo;
-    it.Texto = texto;
-    it.Esquerda = esquerda;
-    it.Largura = largura;
-    return it;
-}
-
 LayoutDocumento LayoutBandaAltissima()
 {
-    LayoutDocumento doc;
     Banda alta;
     alta.Altura = 1778384986;
     // Stretched to the band, turned (a turned symbol takes its bars from
     // the item's width), magnified; the digits lie at the far end.
-    const struct {
-        uint8_t tipo;
-        const char *texto;
-        int largura;
-        const char *atributos;
-    } itens[] = {
+    const std::tuple<uint8_t, const char *, int, const char *> itens[] = {
         {TipoEAN13, "\"789123456789\"", 200, "0000000021"}, {TipoTexto, "Texto", 100, "0000100010"},
         {TipoBarraGrafico, "\"99999999999\"", 80, "0000100010"}, {TipoCode128B, "\"ABC\"", 2000000000, "0000002011"},
         {TipoInterlace25, "\"12345\"", 64, "0000004001"}, {TipoPDF417, "\"PDF\"", 90, "0000000031"},
     };
-    for (const auto &i : itens) {
-        Item it = NovoItem(i.tipo, QString::fromLatin1(i.texto), 0, i.largura);
-        it.Atributos = QString::fromLatin1(i.atributos);
-        alta.Itens.append(it);
-    }
+    for (const auto &[tipo, texto, largura, atributos] : itens)
+        alta.Itens.append({.Texto = QString::fromLatin1(texto), .Fonte = {}, .Largura = largura,
+                           .Atributos = QString::fromLatin1(atributos), .Tipo = tipo});
     Banda comum;
     comum.Altura = 18;
     comum.Itens = {NovoItem(TipoTexto, QStringLiteral("fim"), 0, 64)};
+    LayoutDocumento doc;
     doc.Bandas = {alta, comum};
     doc.ReposicionarTudo();
     return doc;
-}
-
-namespace {
-int g_mensagensQt = 0;
-QtMessageHandler g_anterior = nullptr;
-}  // namespace
-
-ContadorMensagensQt::ContadorMensagensQt()
-{
-    g_mensagensQt = 0;
-    g_anterior = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++g_mensagensQt; });
-}
-
-ContadorMensagensQt::~ContadorMensagensQt()
-{
-    qInstallMessageHandler(g_anterior);
-}
-
-int ContadorMensagensQt::total() const
-{
-    return g_mensagensQt;
-}
-
-Bytes &Bytes::i16(int v)
-{
-    b.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));
-    return *this;
-}
-Bytes &Bytes::i32(int v)
-{
-    for (int i = 0; i < 4; ++i)
-        b.append(char((unsigned(v) >> (8 * i)) & 0xFF));
-    return *this;
-}
-Bytes &Bytes::u8(int v)
-{
-    b.append(char(v));
-    return *this;
-}
-Bytes &Bytes::str(const QByteArray &s)
-{
-    i16(int(s.size()));
-    b.append(s);
-    return *this;
-}
-Bytes &Bytes::raw(const QByteArray &s)
-{
-    b.append(s);
-    return *this;
-}
-Bytes &Bytes::cab(const char *revisao)
-{
-    QByteArray c = QByteArray("LumetaEdit 1.0(") + revisao + ")";
-    c.append(QByteArray(32 - c.size(), ' '));
-    b.append(c);
-    return *this;
 }
 
 QString CaminhoDados(const QString &nome)

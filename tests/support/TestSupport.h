@@ -13,17 +13,21 @@ namespace lumeta::teste {
 // Little-endian writer for building .lmt/.lin files by hand in tests.
 struct Bytes {
     QByteArray b;
-    Bytes &i16(int v);
-    Bytes &i32(int v);
-    Bytes &u8(int v);
-    Bytes &str(const QByteArray &s);   // 16-bit count + bytes
-    Bytes &raw(const QByteArray &s);
-    Bytes &cab(const char *revisao);    // the 32-byte header of a revision letter
+    Bytes &raw(const QByteArray &s) { b.append(s); return *this; }
+    Bytes &u8(int v) { return raw(QByteArray(1, char(v))); }
+    Bytes &i16(int v) { return u8(v).u8(v >> 8); }
+    Bytes &i32(int v) { return i16(v).i16(v >> 16); }
+    Bytes &str(const QByteArray &s) { return i16(int(s.size())).raw(s); }  // 16-bit count + bytes
+    // The 32-byte header of a revision letter.
+    Bytes &cab(const char *revisao) { return raw(("LumetaEdit 1.0(" + QByteArray(revisao) + ")").leftJustified(32)); }
 };
 
 // An item of the given type, text and horizontal place; the rest as a new
 // item has it.
-Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura);
+inline Item NovoItem(uint8_t tipo, const QString &texto, int esquerda, int largura)
+{
+    return {.Texto = texto, .Fonte = {}, .Esquerda = esquerda, .Largura = largura, .Tipo = tipo};
+}
 
 // A COBOL program up to its working storage, with the file the shipped
 // language's copybooks write (ARQ-LUMETA, line sequential) and the
@@ -39,9 +43,14 @@ LayoutDocumento LayoutBandaAltissima();
 // them off standard error.
 class ContadorMensagensQt {
 public:
-    ContadorMensagensQt();
-    ~ContadorMensagensQt();
-    int total() const;
+    ContadorMensagensQt() { s_total = 0; }
+    ~ContadorMensagensQt() { qInstallMessageHandler(m_anterior); }
+    int total() const { return s_total; }
+
+private:
+    inline static int s_total = 0;
+    QtMessageHandler m_anterior =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++s_total; });
 };
 
 QString CaminhoDados(const QString &nome);

@@ -5,33 +5,25 @@
 #include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <optional>
 
 namespace lumeta::teste {
 
 class VariavelTemporaria {
 public:
     VariavelTemporaria(const char *nome, const QString &valor)
-        : m_nome(nome), m_anterior(qgetenv(nome)), m_tinha(qEnvironmentVariableIsSet(nome))
+        : m_nome(nome), m_anterior(qEnvironmentVariableIsSet(nome) ? std::optional(qgetenv(nome)) : std::nullopt)
     {
-        if (valor.isNull())
-            qunsetenv(nome);
-        else
-            qputenv(nome, QFile::encodeName(valor));
+        definir(valor.isNull() ? std::nullopt : std::optional(QFile::encodeName(valor)));
     }
-    ~VariavelTemporaria()
-    {
-        if (m_tinha)
-            qputenv(m_nome, m_anterior);
-        else
-            qunsetenv(m_nome);
-    }
+    ~VariavelTemporaria() { definir(m_anterior); }
     VariavelTemporaria(const VariavelTemporaria &) = delete;
     VariavelTemporaria &operator=(const VariavelTemporaria &) = delete;
 
 private:
+    void definir(const std::optional<QByteArray> &valor) { valor ? qputenv(m_nome, *valor) : qunsetenv(m_nome); }
     const char *m_nome;
-    QByteArray m_anterior;
-    bool m_tinha;
+    std::optional<QByteArray> m_anterior;
 };
 
 }  // namespace lumeta::teste

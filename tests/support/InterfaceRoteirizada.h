@@ -55,9 +55,9 @@ private:
     {
         if (fila.empty())
             return vazia;
-        T r = std::move(fila.front());
+        std::swap(vazia, fila.front());
         fila.pop_front();
-        return r;
+        return vazia;
     }
 };
 

@@ -90,6 +90,7 @@ TEST(Paginacao, BandsFlowAndBreakWhereTheBodyEnds)
         {"quebra antes da terceira", Bloco("1", 20) + Bloco("2", 20) + Bloco("3", 20, "QL", 0, true) + "QP\r\n", 2, 2, 1},
         {"quebra na primeira banda da página", Bloco("1", 20, "QL", 0, true) + Bloco("2", 20), 1, 2, 0},
         {"banda maior que a página", Bloco("1", 20) + Bloco("2", 2000) + Bloco("3", 20), 3, 1, 1},
+        {"13 bandas de 79 enchem as 1027 linhas", Detalhes(14, 79), 2, 13, 1},
         {"só cabeçalho e rodapé", Bloco("cab", 50, "FC") + Bloco("rod", 30, "RO"), 1, 2, 0},
         {"nenhuma banda", QStringLiteral("QJ 92\r\n"), 1, 0, 0},
     };
@@ -117,6 +118,9 @@ TEST(Paginacao, HeaderFooterAndBandPlacement)
     }
     EXPECT_EQ(Textos(p[1]).mid(1, 2), QStringList({"10", "11"}));
     EXPECT_EQ(Textos(p[2]).mid(1, 7), QStringList({"19", "20", "21", "22", "23", "24", "25"}));
+    // A footer band with RT -9999 stands level with the footer band above it.
+    const auto r = Imprimir(Detalhes(2, 20) + Bloco("rod", 30, "RO") + Bloco("nota", 10, "QL", -9999));
+    EXPECT_EQ(std::pair(r[0][2].topo, r[0][3].topo), std::pair(1013, 1013));
 
     // RT: against the previous band's bottom, never above its top; the top
     // margin moves the first band; an oversized band is cut at the body end.

@@ -12,7 +12,7 @@ using namespace lumeta;
 
 namespace {
 
-teste::ExecucaoCli Executar(const QStringList &args)
+teste::Execucao Executar(const QStringList &args)
 {
     return teste::ExecutarCli(QStringList{QStringLiteral("codigo-barras")} + args);
 }
@@ -33,7 +33,7 @@ TEST(CliCodigoBarras, GravaAFiguraDoCodificadorEmPNG)
     for (const auto &c : casos) {
         const QString arquivo = dir.filePath(QStringLiteral("cb%1-%2.png").arg(c.tipo).arg(c.angulo));
         const QString valor = QString::fromUtf8(c.valor);
-        const teste::ExecucaoCli e = Executar(c.antes + QStringList{QString::number(c.tipo), valor, arquivo} + c.depois);
+        const teste::Execucao e = Executar(c.antes + QStringList{QString::number(c.tipo), valor, arquivo} + c.depois);
         EXPECT_EQ(e.codigo, 0) << c.tipo << " " << e.erros.toStdString();
         EXPECT_EQ(QImage(arquivo).convertToFormat(QImage::Format_RGB32), DesenharCodigoBarras(c.tipo, valor, 40, true, c.angulo))
             << c.tipo << " at " << c.angulo;
@@ -61,7 +61,7 @@ TEST(CliCodigoBarras, RecusasComMensagemECodigo)
         {{"36", "A", semPasta}, 1, "Não foi possível gravar o arquivo " + semPasta + "\n\n76 - Caminho não encontrado\n"},
     };
     for (const auto &c : casos) {
-        const teste::ExecucaoCli e = Executar(c.args);
+        const teste::Execucao e = Executar(c.args);
         EXPECT_EQ(e.codigo, c.codigo) << c.args.join(u' ').left(40).toStdString();
         EXPECT_TRUE(c.erros.isEmpty() || e.erros == c.erros) << e.erros.toStdString();
     }

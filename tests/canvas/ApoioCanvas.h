@@ -3,11 +3,11 @@
 // lies, and the command-line program that writes them.
 
 #include "canvas/Pintor.h"
+#include "support/TestSupport.h"
 
 #include <QColor>
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QRect>
 #include <functional>
 
@@ -26,19 +26,10 @@ inline QImage PintarJanela(const LayoutDocumento &doc, QRect area, RecursosCanva
     return janela;
 }
 
-struct ExecucaoCli {
-    int codigo;
-    QString erros;
-};
-
 // lumetaedit-cli with `args`, run in `pasta` (the current folder when empty).
-inline ExecucaoCli ExecutarCli(const QStringList &args, const QString &pasta = {})
+inline Execucao ExecutarCli(const QStringList &args, const QString &pasta = {})
 {
-    QProcess p;
-    p.setWorkingDirectory(pasta);
-    p.start(QStringLiteral(LUMETA_CLI), args);
-    p.waitForFinished(60000);
-    return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardError())};
+    return Executar(QStringLiteral(LUMETA_CLI), args, pasta);
 }
 
 // The bounding box of the pixels that satisfy `tinta` inside `area` (the

@@ -100,7 +100,7 @@ TEST(ValoresExtremos, BandaAltissimaPintadaSoNoQueSeVeSemAvisos)
     QTemporaryDir dir;
     const QString lmt = dir.filePath(QStringLiteral("alta.lmt")), png = dir.filePath(QStringLiteral("alta.png"));
     ASSERT_TRUE(GravarArquivoLMT(lmt, doc).ok);
-    const teste::ExecucaoCli cli = teste::ExecutarCli({QStringLiteral("png"), lmt, png});
+    const teste::Execucao cli = teste::ExecutarCli({QStringLiteral("png"), lmt, png});
     EXPECT_EQ(cli.codigo, 0);
     EXPECT_EQ(cli.erros.trimmed(), MensagemMemoriaInsuficiente);
     EXPECT_EQ(QImage(png).size(), QSize(2016, 2016));

@@ -19,7 +19,6 @@
 #include "support/VariavelTemporaria.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cerrno>
@@ -53,25 +52,14 @@ QStringList Entradas(const QString &pasta)
     return QDir(pasta).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-struct Execucao {
-    int codigo;
-    bool terminou;
-    QByteArray saida, erros;
-};
+using teste::Execucao;
 
 // The CLI (or a shell that starts it); its standard output goes to a file
 // when one is named, else it is kept.
 Execucao Cli(const QStringList &args, const QString &arquivoSaida = QString(),
              const QString &programa = QStringLiteral(LUMETA_CLI), const QString &pasta = QString())
 {
-    QProcess p;
-    p.setWorkingDirectory(pasta);
-    if (!arquivoSaida.isEmpty())
-        p.setStandardOutputFile(arquivoSaida);
-    p.start(programa, args);
-    const bool terminou = p.waitForFinished(20000);
-    p.kill();
-    return {p.exitCode(), terminou, p.readAllStandardOutput(), p.readAllStandardError()};
+    return teste::Executar(programa, args, pasta, false, arquivoSaida);
 }
 
 // A tmpfs of a few pages in a temporary folder, unmounted at the end.
@@ -234,9 +222,8 @@ TEST(ArquivoDisco, LeitorOlhaOCabecalhoPrimeiroERecusaOQueNaoEArquivo)
     const Execucao r = Cli({QStringLiteral("-c"), limite + QStringLiteral("exec \"$0\" texto /dev/zero"),
                             QStringLiteral(LUMETA_CLI)},
                            QString(), QStringLiteral("/bin/sh"));
-    ASSERT_TRUE(r.terminou);
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(QString::fromLocal8Bit(r.erros), MensagemErroAbrir(QStringLiteral("/dev/zero"), acesso) + u'\n');
+    EXPECT_EQ(r.erros, MensagemErroAbrir(QStringLiteral("/dev/zero"), acesso) + u'\n');
 }
 
 TEST(ArquivoDisco, SaidaPadraoCheiaEFalhasDeArquivoFalamPortugues)
@@ -246,11 +233,11 @@ TEST(ArquivoDisco, SaidaPadraoCheiaEFalhasDeArquivoFalamPortugues)
     ASSERT_TRUE(GravarArquivoLMT(lmt, SessaoEdicao().Documento).ok);
     Execucao r = Cli({QStringLiteral("texto"), lmt}, QStringLiteral("/dev/full"));
     EXPECT_EQ(r.codigo, 1);
-    EXPECT_EQ(QString::fromLocal8Bit(r.erros),
+    EXPECT_EQ(r.erros,
               QStringLiteral("Ocorreu um erro ao gravar a saída padrão!\n\n61 - Disco cheio\n"));
     const Dispositivos dev(dir);
     r = Cli({QStringLiteral("codigo-barras"), QStringLiteral("36"), QStringLiteral("A"), dev.cheio});
-    EXPECT_EQ(QString::fromLocal8Bit(r.erros),
+    EXPECT_EQ(r.erros,
               QStringLiteral("Não foi possível gravar o arquivo ") + dev.cheio + QStringLiteral("\n\n61 - Disco cheio\n"));
     EXPECT_TRUE(EhDispositivo(dev.cheio));
 
@@ -504,7 +491,7 @@ TEST_F(CliTeste, ErrosDaoAMensagemDoEditorECodigoDeSaida)
         const Execucao r = Cli(args, QString(), QStringLiteral(LUMETA_CLI), linguagens.Pasta());
         EXPECT_EQ(r.codigo, codigo) << args.join(u' ').toStdString();
         EXPECT_EQ(r.saida.isEmpty(), codigo != 0) << args.join(u' ').toStdString();
-        EXPECT_TRUE(QString::fromLocal8Bit(r.erros).startsWith(inicio)) << args.join(u' ').toStdString() << ": " << r.erros.toStdString();
+        EXPECT_TRUE(r.erros.startsWith(inicio)) << args.join(u' ').toStdString() << ": " << r.erros.toStdString();
     }
     EXPECT_FALSE(QFile::exists(caminho("--help")));
     EXPECT_EQ(teste::LerArquivo(caminho("meu_cobol.lin")), CodificarLin(LinguagemPadrao()));

@@ -6,22 +6,13 @@
 
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
 
-struct Resultado {
-    int codigo;
-    QString erro;
-};
-
-Resultado Imprimir(const QStringList &args)
+lumeta::teste::Execucao Imprimir(const QStringList &args)
 {
-    QProcess p;
-    p.start(QStringLiteral(LUMETA_CLI), QStringList{QStringLiteral("imprimir")} + args);
-    EXPECT_TRUE(p.waitForFinished(60000));
-    return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardError())};
+    return lumeta::teste::Executar(QStringLiteral(LUMETA_CLI), QStringList{QStringLiteral("imprimir")} + args);
 }
 
 TEST(CliImprimir, ExitCodesMessagesAndFiles)
@@ -47,9 +38,9 @@ TEST(CliImprimir, ExitCodesMessagesAndFiles)
     };
     for (const Caso &c : casos) {
         SCOPED_TRACE(c.args.join(' ').toStdString());
-        const Resultado r = Imprimir(c.args);
+        const auto r = Imprimir(c.args);
         EXPECT_EQ(r.codigo, c.codigo);
-        EXPECT_TRUE(r.erro.contains(QString::fromUtf8(c.mensagem))) << r.erro.toStdString();
+        EXPECT_TRUE(r.erros.contains(QString::fromUtf8(c.mensagem))) << r.erros.toStdString();
     }
     // Only the good runs left files, each whole.
     EXPECT_EQ(QDir(dir.path()).entryList({"*.pdf", "*.png", ".*.pdf*"}, QDir::Files | QDir::Hidden),

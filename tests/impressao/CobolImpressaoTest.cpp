@@ -10,7 +10,6 @@
 #include "support/TestSupport.h"
 
 #include <QImage>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -54,15 +53,10 @@ LayoutDocumento Relatorio()
 
 int Rodar(const QString &programa, const QStringList &args, const QString &pasta, QByteArray *saida = nullptr)
 {
-    QProcess p;
-    p.setWorkingDirectory(pasta);
-    p.setProcessChannelMode(QProcess::MergedChannels);
-    p.start(programa, args);
-    if (!p.waitForFinished(120000))
-        return -1;
+    const teste::Execucao e = teste::Executar(programa, args, pasta, true);
     if (saida)
-        *saida = p.readAll();
-    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+        *saida = e.saida;
+    return e.codigo;
 }
 
 }  // namespace

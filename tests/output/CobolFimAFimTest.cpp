@@ -8,7 +8,6 @@
 #include "support/TestSupport.h"
 
 #include <QMap>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -110,13 +109,9 @@ LayoutDocumento layoutCompleto(const QString &antes, const QString &depois)
 // The exit status of a finished program, its output and errors in `saida`.
 int rodar(const QString &programa, const QStringList &args, const QString &pasta, QByteArray &saida)
 {
-    QProcess p;
-    p.setWorkingDirectory(pasta);
-    p.setProcessChannelMode(QProcess::MergedChannels);
-    p.start(programa, args);
-    const bool terminou = p.waitForFinished(120000);
-    saida = p.readAll();
-    return terminou && p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    const teste::Execucao e = teste::Executar(programa, args, pasta, true);
+    saida = e.saida;
+    return e.codigo;
 }
 
 // The command text of layoutCompleto() as the program writes it: the host's

@@ -3,6 +3,7 @@
 #include "document/Texto1252.h"
 
 #include <QFile>
+#include <QProcess>
 
 namespace lumeta::teste {
 
@@ -64,6 +65,23 @@ QByteArray InicioProgramaCobol(const char *nome, const QString &defVariaveis)
         "       01  REG-LUMETA pic x(2000).\n"
         "       working-storage section.\n"
         + Para1252(defVariaveis) + "\n";
+}
+
+Execucao Executar(const QString &programa, const QStringList &args, const QString &pasta, bool juntar,
+                  const QString &arquivoSaida)
+{
+    QProcess p;
+    p.setWorkingDirectory(pasta);
+    if (juntar)
+        p.setProcessChannelMode(QProcess::MergedChannels);
+    if (!arquivoSaida.isEmpty())
+        p.setStandardOutputFile(arquivoSaida);
+    p.start(programa, args);
+    const bool terminou = p.waitForFinished(120000);
+    p.kill();
+    p.waitForFinished();
+    return {terminou && p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput(),
+            QString::fromLocal8Bit(p.readAllStandardError())};
 }
 
 }  // namespace lumeta::teste

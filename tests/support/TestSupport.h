@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 namespace lumeta::teste {
@@ -52,6 +53,17 @@ private:
     QtMessageHandler m_anterior =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++s_total; });
 };
+
+// A program run to its end in `pasta`: its exit code (-1 when it crashed or
+// did not end within two minutes), its standard output (its errors too with
+// `juntar`; nothing when `arquivoSaida` takes it) and its errors.
+struct Execucao {
+    int codigo;
+    QByteArray saida;
+    QString erros;
+};
+Execucao Executar(const QString &programa, const QStringList &args, const QString &pasta = {}, bool juntar = false,
+                  const QString &arquivoSaida = {});
 
 QString CaminhoDados(const QString &nome);
 QByteArray LerArquivo(const QString &caminho);

@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -78,10 +77,7 @@ TEST(Previa, ACommandFileIsPagedZoomedAndSavedAsPdf)
     EXPECT_EQ(vista->PaginasPintadas(), antes + 2);
 
     QTest::mouseClick(Botao(previa, QStringLiteral("Salvar &PDF...")), Qt::LeftButton);
-    QProcess info;
-    info.start("pdfinfo", {pdf});
-    ASSERT_TRUE(info.waitForFinished(30000));
-    EXPECT_TRUE(info.readAllStandardOutput().contains("Pages:           3"));
+    EXPECT_TRUE(teste::Executar(QStringLiteral("pdfinfo"), {pdf}).saida.contains("Pages:           3"));
     EXPECT_EQ(j.ui.mensagens.size(), 1);
     previa->close();
 }

@@ -1,6 +1,5 @@
 #include "app/JanelaTeste.h"
 #include "app/gui/AvisosQt.h"
-#include "app/gui/Autor.h"
 #include "app/gui/CanvasJanela.h"
 #include "controls/ui/XPButtonCtl.h"
 #include "document/ArquivoLMT.h"
@@ -10,7 +9,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
@@ -102,13 +100,6 @@ TEST(frmLumetaEdit, PrimeiroInicioMenusCanvasRodaEAboutBox)
     j.janela.MostrarSelecao();
     EXPECT_EQ(v->value(), 16 - 8);
 
-    // The about box shows the build's own version and opens the site.
-    Autor autor(&j.janela);
-    auto rotulo = [&](const char *nome) { return autor.findChild<QLabel *>(QLatin1String(nome)); };
-    EXPECT_EQ(rotulo("lblVersao")->text(), QStringLiteral("Versão %1.%2.%3")
-                                               .arg(LUMETA_VERSAO_MAIOR).arg(LUMETA_VERSAO_MENOR).arg(LUMETA_VERSAO_REVISAO));
-    EXPECT_TRUE(rotulo("lblSite")->text().contains(QStringLiteral("href=\"") + EnderecoSite));
-    EXPECT_TRUE(rotulo("lblSite")->openExternalLinks());
 }
 
 TEST(frmLumetaEdit, DesfazerSoComEdicaoEForaDeCaixaDeTexto)

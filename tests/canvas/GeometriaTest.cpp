@@ -10,13 +10,6 @@
 
 using namespace lumeta;
 
-TEST(Geometria, RotulosDoMarcadorDaPagina)
-{
-    // Where the marker stands and its colour, the painter's pixels show.
-    EXPECT_EQ(std::pair(MarcadorDaPagina(false).rotulo, MarcadorDaPagina(true).rotulo),
-              std::pair(QStringLiteral("A4 (Retrato)"), QStringLiteral("A4 (Paisagem)")));
-}
-
 // Growth as a repaint drives it, and the fallback when memory runs out, the
 // painter's test shows; here, the edges of the rules.
 TEST(Geometria, TamanhoInicialECrescimento)

@@ -474,6 +474,8 @@ TEST_F(CliTeste, ErrosDaoAMensagemDoEditorECodigoDeSaida)
         {{"texto", ruim}, 1, "Formato inválido!"},
         {{"texto", caminho("nao-existe.lmt")}, 1, "Ocorreu um erro ao abrir o arquivo '"},
         {{"png", semBandas, caminho("s.png")}, 1, "Ocorreu um erro ao abrir o arquivo '"},
+        {{"png", lmt, caminho("sem/pasta/x.png")}, 1, "Não foi possível gravar a figura"},
+        {{"png", lmt}, 2, "Uso: lumetaedit-cli png"},
         {{"novo", caminho("sem/pasta.lmt")}, 1, "Ocorreu um erro ao gravar o arquivo '"},
         {{"texto"}, 2, "Uso: lumetaedit-cli texto"},
         // An option is never taken for a file name.

@@ -233,8 +233,8 @@ public:
             default: mnuEditarExcluir(s); return "delete";
             }
         case 10:
-            s.DesfazerEdicao();
-            return "undo";
+            Chance(70) ? s.DesfazerEdicao() : s.RefazerEdicao();
+            return "undo or redo";
         case 11:
             mnuEditarTudo(s);
             return "select all";

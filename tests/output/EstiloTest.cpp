@@ -39,7 +39,6 @@ TEST(TextoEmail, SoOMarcadorExatoEhQuebraDeLinha)
     EXPECT_EQ(TextoEmailDaCaixa(QStringLiteral("um\ndois\r\ntres")), QStringLiteral("um{ENTER}dois{ENTER}tres"));
     const QString padrao = TextoEmailDaCaixa(TextoEmailPadrao());
     EXPECT_TRUE(padrao.startsWith(QStringLiteral("Em anexo o orçamento solicitado!{ENTER}{ENTER}Se você")));
-    EXPECT_EQ(padrao.count(QStringLiteral("{ENTER}")), 9);
 }
 
 TEST(Visualizacao, ArgumentosNaOrdemDoVisualizador)

@@ -83,21 +83,3 @@ TEST(TextoComandos, ListaDeComandosUtilizadosSemRepetirIgnorandoCaixa)
     EXPECT_EQ(ListaComandosUtilizados(d), QStringLiteral("WS-NOME\r\nWS-DATA\r\nWS-TOTAL\r\n"));
     EXPECT_EQ(ListaComandosUtilizados(LayoutDocumento()), QString());
 }
-
-TEST(ConcatenarString, CresceEmPassosEDevolveSoOTextoUsado)
-{
-    clsConcatenarString s;
-    s.Add(QStringLiteral("abc"));
-    EXPECT_EQ(s.Capacidade(), 64000);
-    s.Clear();
-    EXPECT_EQ(s.Capacidade(), 0);
-    // A piece longer than the step takes what it needs; exactly full also grows.
-    s.setBufferIncrement(4);
-    QList<int> capacidades;
-    for (const char *pedaco : {"abcdef", "g", "hi", "j"}) {
-        s.Add(QString::fromLatin1(pedaco));
-        capacidades << s.Capacidade();
-    }
-    EXPECT_EQ(capacidades, (QList<int>{6, 10, 10, 14}));
-    EXPECT_EQ(s.ResultString(), QStringLiteral("abcdefghij"));
-}

@@ -5,7 +5,6 @@
 #include "document/InterfaceUsuario.h"
 
 #include <QList>
-#include <QStringList>
 #include <deque>
 #include <vector>
 

@@ -52,7 +52,7 @@ TEST_F(RegrasNumeroTest, TeclasSobreTextoESelecao)
         {6.6, false, "15", 2, 0, "\r", "15", EfeitoTecla::Passa},
         {6.6, false, "42", 0, 2, "\b", "0", C},                       // emptied: a zero
         {6.6, false, "123", 2, 0, "\b", "13", C, 1, 0},               // Backspace takes the digit before the caret
-        {6.6, true, "-15", 0, 0, "2", "-215", C},                     // a digit typed before the sign goes after it
+        {6.6, true, "-15", 0, 0, "2", "-215", C, 2, 0},               // a digit typed before the sign goes after it
         {6.6, false, "-15", 0, 0, "", "15", C},                       // a pasted sign goes when not allowed
     };
     for (const Caso &c : casos) {

@@ -6,21 +6,16 @@
 #include "support/VariavelTemporaria.h"
 
 #include <QDir>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <gtest/gtest.h>
 
 using namespace lumeta;
 
-namespace {
-
-const QString Distribuidos = QStringLiteral(LUMETA_DISTRIBUIDOS);
-
-}  // namespace
-
 TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
 {
-    teste::VariavelTemporaria recursos(VariavelPastaRecursos, Distribuidos);
+    teste::VariavelTemporaria recursos(VariavelPastaRecursos, QStringLiteral(LUMETA_DISTRIBUIDOS));
     teste::JanelaTeste j;
 
     // "Conteúdo": the manual, in one help window that "Tutorial" reuses.
@@ -32,10 +27,14 @@ TEST(Ajuda, ManualTutorialEExemplosDaPastaDoProgramaOuUmaMensagem)
     j.acao("mnuAjudaTutorial")->trigger();
     EXPECT_EQ(j.janela.findChildren<JanelaAjuda *>().size(), 1);
     EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
+    // "Voltar" goes back along the links followed.
+    texto->setSource(QUrl(QStringLiteral("Leia-me.html")));
+    ajuda->findChild<QPushButton *>(QStringLiteral("btnVoltar"))->click();
+    EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("Tutorial: uma fatura")));
 
     // "Exemplos": the open dialog in the examples' folder; every example
     // opens as a layout of several bands.
-    const QString exemplos = Distribuidos + QStringLiteral("/exemplos");
+    const QString exemplos = QStringLiteral(LUMETA_DISTRIBUIDOS "/exemplos");
     const QStringList arquivos = QDir(exemplos).entryList({QStringLiteral("*.lmt")}, QDir::Files);
     EXPECT_EQ(arquivos.size(), 3);
     for (const QString &a : arquivos) {

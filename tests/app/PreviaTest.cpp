@@ -25,14 +25,6 @@ QByteArray TresPaginas()
     return Para1252(t);
 }
 
-QPushButton *Botao(QWidget *janela, const QString &legenda)
-{
-    for (auto *b : janela->findChildren<QPushButton *>())
-        if (b->text() == legenda)
-            return b;
-    return nullptr;
-}
-
 }  // namespace
 
 TEST(Previa, ACommandFileIsPagedZoomedAndSavedAsPdf)
@@ -46,7 +38,6 @@ TEST(Previa, ACommandFileIsPagedZoomedAndSavedAsPdf)
     // A file the engine refuses is told, and no preview opens.
     j.ui.arquivos = {dir.filePath("ruim.txt"), arquivo, pdf};
     QAction *abrir = j.acao("mnuArquivoImprimirComandos");
-    ASSERT_NE(abrir, nullptr);
     abrir->trigger();
     ASSERT_EQ(j.ui.mensagens.size(), 1);
     EXPECT_TRUE(j.ui.mensagens[0].texto.contains("comando desconhecido na linha 2")) << j.ui.mensagens[0].texto.toStdString();
@@ -60,9 +51,9 @@ TEST(Previa, ACommandFileIsPagedZoomedAndSavedAsPdf)
                                             "Salvar PDF...", "Fechar"});
     auto *pagina = previa->findChild<QLabel *>("lblPagina");
     EXPECT_EQ(pagina->text(), QStringLiteral("Página 1 de 3"));
-    QTest::mouseClick(Botao(previa, QStringLiteral("&Próxima")), Qt::LeftButton);
+    QTest::mouseClick(previa->findChild<QPushButton *>("btnProxima"), Qt::LeftButton);
     EXPECT_EQ(pagina->text(), QStringLiteral("Página 2 de 3"));
-    QTest::mouseClick(Botao(previa, QStringLiteral("&Anterior")), Qt::LeftButton);
+    QTest::mouseClick(previa->findChild<QPushButton *>("btnAnterior"), Qt::LeftButton);
     EXPECT_EQ(pagina->text(), QStringLiteral("Página 1 de 3"));
 
     // Half size shows more of the pages at once; only what shows is painted.
@@ -76,7 +67,7 @@ TEST(Previa, ACommandFileIsPagedZoomedAndSavedAsPdf)
     vista->viewport()->repaint();
     EXPECT_EQ(vista->PaginasPintadas(), antes + 2);
 
-    QTest::mouseClick(Botao(previa, QStringLiteral("Salvar &PDF...")), Qt::LeftButton);
+    QTest::mouseClick(previa->findChild<QPushButton *>("btnSalvarPDF"), Qt::LeftButton);
     EXPECT_TRUE(teste::Executar(QStringLiteral("pdfinfo"), {pdf}).saida.contains("Pages:           3"));
     EXPECT_EQ(j.ui.mensagens.size(), 1);
     previa->close();

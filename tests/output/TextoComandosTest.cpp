@@ -83,3 +83,13 @@ TEST(TextoComandos, ListaDeComandosUtilizadosSemRepetirIgnorandoCaixa)
     EXPECT_EQ(ListaComandosUtilizados(d), QStringLiteral("WS-NOME\r\nWS-DATA\r\nWS-TOTAL\r\n"));
     EXPECT_EQ(ListaComandosUtilizados(LayoutDocumento()), QString());
 }
+
+TEST(ConcatenarString, UmPedacoMaiorQueOPassoCabeInteiro)
+{
+    clsConcatenarString s;
+    s.setBufferIncrement(4);
+    s.Add(QStringLiteral("abcdef"));
+    EXPECT_GE(s.Capacidade(), 6);
+    s.Add(QStringLiteral("ghij"));
+    EXPECT_EQ(s.ResultString(), QStringLiteral("abcdefghij"));
+}

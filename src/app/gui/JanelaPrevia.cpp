@@ -161,18 +161,19 @@ JanelaPrevia::JanelaPrevia(std::unique_ptr<MotorImpressao> motor, const QString 
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 
-    auto botao = [this](const QString &legenda, const QKeySequence &tecla) {
+    auto botao = [this](const QString &legenda, const QKeySequence &tecla, const char *nome) {
         auto *b = new QPushButton(legenda, this);
+        b->setObjectName(QLatin1String(nome));
         b->setAutoDefault(false);
         if (!tecla.isEmpty())
             b->setShortcut(tecla);
         return b;
     };
-    QPushButton *anterior = botao(QStringLiteral("&Anterior"), QKeySequence(Qt::Key_PageUp));
-    QPushButton *proxima = botao(QStringLiteral("&Próxima"), QKeySequence(Qt::Key_PageDown));
-    QPushButton *imprimir = botao(QStringLiteral("&Imprimir..."), QKeySequence::Print);
-    QPushButton *pdf = botao(QStringLiteral("Salvar &PDF..."), QKeySequence());
-    QPushButton *fechar = botao(QStringLiteral("&Fechar"), QKeySequence());
+    QPushButton *anterior = botao(QStringLiteral("&Anterior"), QKeySequence(Qt::Key_PageUp), "btnAnterior");
+    QPushButton *proxima = botao(QStringLiteral("&Próxima"), QKeySequence(Qt::Key_PageDown), "btnProxima");
+    QPushButton *imprimir = botao(QStringLiteral("&Imprimir..."), QKeySequence::Print, "btnImprimir");
+    QPushButton *pdf = botao(QStringLiteral("Salvar &PDF..."), QKeySequence(), "btnSalvarPDF");
+    QPushButton *fechar = botao(QStringLiteral("&Fechar"), QKeySequence(), "btnFechar");
     m_pagina = new QLabel(this);
     m_pagina->setObjectName(QStringLiteral("lblPagina"));
     m_zoom = new QComboBox(this);

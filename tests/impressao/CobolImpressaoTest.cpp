@@ -51,14 +51,6 @@ LayoutDocumento Relatorio()
     return doc;
 }
 
-int Rodar(const QString &programa, const QStringList &args, const QString &pasta, QByteArray *saida = nullptr)
-{
-    const teste::Execucao e = teste::Executar(programa, args, pasta, true);
-    if (saida)
-        *saida = e.saida;
-    return e.codigo;
-}
-
 }  // namespace
 
 TEST(CobolImpressao, AHostProgramsReportPrintsWithHeaderFooterTotalsAndBarcode)
@@ -82,14 +74,14 @@ TEST(CobolImpressao, AHostProgramsReportPrintsWithHeaderFooterTotalsAndBarcode)
           "           stop run.\n";
     teste::GravarArquivoTeste(dir.filePath("relatorio.cbl"), programa);
     QByteArray saida;
-    ASSERT_EQ(Rodar(cobc, {"-x", "-o", "relatorio", "relatorio.cbl"}, dir.path(), &saida), 0) << saida.toStdString();
-    ASSERT_EQ(Rodar(dir.filePath("relatorio"), {}, dir.path(), &saida), 0) << saida.toStdString();
+    ASSERT_EQ(teste::Rodar(cobc, {"-x", "-o", "relatorio", "relatorio.cbl"}, dir.path(), saida), 0) << saida.toStdString();
+    ASSERT_EQ(teste::Rodar(dir.filePath("relatorio"), {}, dir.path(), saida), 0) << saida.toStdString();
 
     // The header of 30 and the footer of 70 pixels leave 927 rows: 51 lines
     // of 18 a page, so 150 lines make three pages.
-    ASSERT_EQ(Rodar(LUMETA_CLI, {"imprimir", "relatorio.txt", "relatorio.pdf"}, dir.path(), &saida), 0)
+    ASSERT_EQ(teste::Rodar(LUMETA_CLI, {"imprimir", "relatorio.txt", "relatorio.pdf"}, dir.path(), saida), 0)
         << saida.toStdString();
-    ASSERT_EQ(Rodar("pdftotext", {"-layout", "relatorio.pdf", "-"}, dir.path(), &saida), 0);
+    ASSERT_EQ(teste::Rodar("pdftotext", {"-layout", "relatorio.pdf", "-"}, dir.path(), saida), 0);
     const QStringList paginas = QString::fromUtf8(saida).split(QLatin1Char('\f'), Qt::SkipEmptyParts);
     ASSERT_EQ(paginas.size(), 3);
     const int totais[] = {51 * 52 / 2, 102 * 103 / 2, Linhas * (Linhas + 1) / 2};
@@ -109,7 +101,7 @@ TEST(CobolImpressao, AHostProgramsReportPrintsWithHeaderFooterTotalsAndBarcode)
     EXPECT_EQ(proxima, Linhas + 1);
 
     // The footer's symbol reads back from every printed page.
-    ASSERT_EQ(Rodar(LUMETA_CLI, {"imprimir", "relatorio.txt", "pagina.png"}, dir.path(), &saida), 0);
+    ASSERT_EQ(teste::Rodar(LUMETA_CLI, {"imprimir", "relatorio.txt", "pagina.png"}, dir.path(), saida), 0);
     for (int p = 1; p <= 3; ++p) {
         const QImage pagina(dir.filePath(QStringLiteral("pagina-%1.png").arg(p)));
         const teste::Leitura l = teste::LerCodigoBarras(pagina.copy(0, 900, pagina.width(), 223),

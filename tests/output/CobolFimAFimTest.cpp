@@ -106,14 +106,6 @@ LayoutDocumento layoutCompleto(const QString &antes, const QString &depois)
     return doc;
 }
 
-// The exit status of a finished program, its output and errors in `saida`.
-int rodar(const QString &programa, const QStringList &args, const QString &pasta, QByteArray &saida)
-{
-    const teste::Execucao e = teste::Executar(programa, args, pasta, true);
-    saida = e.saida;
-    return e.codigo;
-}
-
 // The command text of layoutCompleto() as the program writes it: the host's
 // data in place of a variable's name or a sample value, the text template's
 // geometry (left + 2, width - 4) for pictures and barcodes, no line for a
@@ -213,10 +205,10 @@ TEST(CobolFimAFim, LinguagemCobolDistribuidaCompilaEGravaOsComandos)
         ling.CobolString = cobolString;
         teste::GravarArquivoTeste(dir.filePath(QStringLiteral("relatorio.cpy")), Para1252(GerarCopiarComo(doc, ling)));
         QByteArray saida;
-        ASSERT_EQ(rodar(cobc, {QStringLiteral("-x"), QStringLiteral("-o"), QStringLiteral("relatorio"),
+        ASSERT_EQ(teste::Rodar(cobc, {QStringLiteral("-x"), QStringLiteral("-o"), QStringLiteral("relatorio"),
                                QStringLiteral("relatorio.cbl")}, dir.path(), saida), 0) << saida.toStdString();
         EXPECT_TRUE(saida.isEmpty()) << saida.toStdString();  // not even a warning
-        ASSERT_EQ(rodar(dir.filePath(QStringLiteral("relatorio")), {}, dir.path(), saida), 0) << saida.toStdString();
+        ASSERT_EQ(teste::Rodar(dir.filePath(QStringLiteral("relatorio")), {}, dir.path(), saida), 0) << saida.toStdString();
         // Line by line, for a readable report when they differ.
         EXPECT_EQ(De1252(teste::LerArquivo(dir.filePath(QStringLiteral("relatorio.txt")))).split(QLatin1Char('\n')),
                   comandosDoPrograma(doc) + QStringList{QString()});

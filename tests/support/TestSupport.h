@@ -63,6 +63,13 @@ struct Execucao {
 };
 Execucao Executar(const QString &programa, const QStringList &args, const QString &pasta = {}, bool juntar = false,
                   const QString &arquivoSaida = {});
+// The exit code of a program run in `pasta`; its output and errors together in `saida`.
+inline int Rodar(const QString &programa, const QStringList &args, const QString &pasta, QByteArray &saida)
+{
+    const Execucao e = Executar(programa, args, pasta, true);
+    saida = e.saida;
+    return e.codigo;
+}
 
 QString CaminhoDados(const QString &nome);
 QByteArray LerArquivo(const QString &caminho);
